@@ -1,0 +1,32 @@
+# What every target of the project is compiled with.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+option(VORLAN_WARNINGS_AS_ERRORS "Treat warnings as errors" ON)
+option(VORLAN_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
+
+add_library(vorlan_options INTERFACE)
+if(MSVC)
+  target_compile_options(vorlan_options INTERFACE /W4 /utf-8 $<$<BOOL:${VORLAN_WARNINGS_AS_ERRORS}>:/WX>)
+else()
+  target_compile_options(vorlan_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+    # A row of a table names what differs from the usual case; everything else is zero on purpose.
+    -Wno-missing-field-initializers
+    # GCC 12 finds overlaps in the joining of texts where there are none.
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+    $<$<BOOL:${VORLAN_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
+if(VORLAN_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,103 @@
+// The description of a class, from which everything that lists, calls or documents its members is made.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "automation/object.hpp"
+
+namespace vorlan {
+
+struct ParameterInfo {
+  std::string_view name;
+  ValueType type = ValueType::Any;
+  bool by_reference = false;
+  bool optional = false;
+};
+
+/// A property or method. A property with parameters is indexed by them.
+struct MemberInfo {
+  std::string_view name;
+  bool gets = false;
+  bool lets = false;
+  bool sets = false;
+  bool calls = false;
+  ValueType type = ValueType::Any;  ///< of the property, or of the method's result (Empty: none)
+  std::vector<ParameterInfo> parameters;
+  std::string summary;
+
+  [[nodiscard]] bool is_method() const noexcept { return calls; }
+  [[nodiscard]] bool allows(Access access) const noexcept;
+  [[nodiscard]] std::size_t required_parameters() const noexcept;
+};
+
+/// A field of a message or record, for listings: what `describe` prints beside the members.
+struct FieldInfo {
+  std::string_view name;
+  std::string width;      ///< "8", "8 x MoreInfoLen"
+  std::string condition;  ///< "if SubnetIncluded = 1", "per pilot"; empty: always there
+  std::string initial;    ///< the bit string that a new object holds; empty: none
+  std::string unit;       ///< "dB", "slots"; empty: none
+  std::string origin;     ///< "set", "configuration", "constant", "received"
+};
+
+/// A text that a class raises on purpose.
+struct ErrorInfo {
+  std::string source;
+  std::string description;
+  std::string when;
+};
+
+/// What the registry knows of a class. Immutable once made.
+class ClassInfo {
+ public:
+  struct Texts {
+    std::string_view name;     ///< "SB_Ses_MsgSessionClose"
+    std::string_view summary;  ///< one line
+    std::string_view clause;   ///< of C.S0024, where it defines the thing
+  };
+
+  ClassInfo(Texts texts, std::vector<MemberInfo> members, std::vector<FieldInfo> fields = {},
+            std::vector<ErrorInfo> errors = {});
+
+  [[nodiscard]] std::string_view name() const noexcept { return texts_.name; }
+  [[nodiscard]] std::string_view summary() const noexcept { return texts_.summary; }
+  [[nodiscard]] std::string_view clause() const noexcept { return texts_.clause; }
+  [[nodiscard]] std::span<const MemberInfo> members() const noexcept { return members_; }
+  [[nodiscard]] std::span<const FieldInfo> fields() const noexcept { return fields_; }
+  [[nodiscard]] std::span<const ErrorInfo> errors() const noexcept { return errors_; }
+
+  /// The index of a member, found without regard to case; -1 if there is none.
+  [[nodiscard]] int find(std::string_view member) const noexcept;
+
+ private:
+  Texts texts_;
+  std::vector<MemberInfo> members_;
+  std::vector<FieldInfo> fields_;
+  std::vector<ErrorInfo> errors_;
+  std::vector<std::int16_t> slots_;  // open addressing; a power of two of them, -1 where free
+};
+
+/// An object whose class is in the registry: finds the member, checks access and number of arguments, names the
+/// source of errors that do not name one.
+class ClassObject : public Object {
+ public:
+  Value invoke(std::string_view member, Access access, std::span<Value> arguments) final;
+  [[nodiscard]] const ClassInfo* class_info() const noexcept final { return info_; }
+
+ protected:
+  explicit ClassObject(const ClassInfo& info) noexcept : info_(&info) {}
+  /// `member` is an index into class_info()->members(); the number of arguments has been checked.
+  virtual Value invoke_member(int member, Access access, std::span<Value> arguments) = 0;
+
+ private:
+  const ClassInfo* info_;
+};
+
+/// Equal without regard to the case of the letters A to Z.
+bool equals_ignoring_case(std::string_view a, std::string_view b) noexcept;
+
+}  // namespace vorlan

@@ -1,0 +1,86 @@
+// What every automation object looks like, wherever it lives.
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "automation/value.hpp"
+
+namespace vorlan {
+
+class ClassInfo;
+
+enum class Access : std::uint8_t { Get, Let, Set, Call };
+
+/// The octets of a message object that lives in this process. Reading or writing them whole is one call where the
+/// late-bound `Octet` property takes one per octet.
+class OctetBuffer {
+ public:
+  /// The octets held; a message object answers zero for every octet past them.
+  [[nodiscard]] virtual std::span<const std::uint8_t> octets() const noexcept = 0;
+  /// Replaces the first octets and leaves those behind them.
+  virtual void write_octets(std::span<const std::uint8_t> octets) = 0;
+
+ protected:
+  ~OctetBuffer() = default;
+};
+
+/// An automation object: one of this library's, a test set's, a script's own, or a stand-in for one in another
+/// process. The library never cares which.
+class Object {
+ public:
+  Object() noexcept = default;
+  Object(const Object&) = delete;
+  Object& operator=(const Object&) = delete;
+
+  /// Gets, lets or sets a property or calls a method, found by name without regard to case. Index arguments come
+  /// first, the value of Let and Set comes last. Arguments passed by reference are changed in place.
+  virtual Value invoke(std::string_view member, Access access, std::span<Value> arguments) = 0;
+
+  /// The description of an object of this library; null for a foreign one.
+  [[nodiscard]] virtual const ClassInfo* class_info() const noexcept { return nullptr; }
+  /// The octets of an in-process message object; null for every other object.
+  [[nodiscard]] virtual OctetBuffer* octet_buffer() noexcept { return nullptr; }
+
+  template <class... Arguments>
+  Value get(std::string_view member, Arguments&&... arguments) {
+    return with(member, Access::Get, std::forward<Arguments>(arguments)...);
+  }
+  template <class... Arguments>
+  void let(std::string_view member, Arguments&&... arguments) {
+    with(member, Access::Let, std::forward<Arguments>(arguments)...);
+  }
+  template <class... Arguments>
+  void set(std::string_view member, Arguments&&... arguments) {
+    with(member, Access::Set, std::forward<Arguments>(arguments)...);
+  }
+  template <class... Arguments>
+  Value call(std::string_view member, Arguments&&... arguments) {
+    return with(member, Access::Call, std::forward<Arguments>(arguments)...);
+  }
+
+  void add_reference() noexcept { references_.fetch_add(1, std::memory_order_relaxed); }
+  void release() noexcept {
+    if (references_.fetch_sub(1, std::memory_order_acq_rel) == 1) delete this;
+  }
+
+ protected:
+  virtual ~Object() = default;
+
+ private:
+  template <class... Arguments>
+  Value with(std::string_view member, Access access, Arguments&&... arguments) {
+    std::array<Value, sizeof...(Arguments)> values{Value(std::forward<Arguments>(arguments))...};
+    return invoke(member, access, values);
+  }
+
+  std::atomic<std::uint32_t> references_{1};
+};
+
+/// Calls a member of an object that may be Nothing: error 91 with this source then.
+Object& deref(const Ref<Object>& object, std::string_view source);
+
+}  // namespace vorlan
