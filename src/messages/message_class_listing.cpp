@@ -1,0 +1,133 @@
+// What listings show of a message's rows: fields with width and condition, and the texts it raises.
+#include "messages/message_class.hpp"
+
+namespace vorlan {
+
+namespace {
+
+std::string_view bare(std::string_view name) {
+  return name.starts_with("PR") && name.find('_') != std::string_view::npos ? name.substr(name.find('_') + 1) : name;
+}
+
+std::string width_text(const FieldSpec& field) {
+  switch (field.width.kind) {
+    case WidthRule::Kind::Fixed: return std::to_string(field.bits);
+    case WidthRule::Kind::OctetsCountedBy: return "8 x " + std::string(bare(field.width.field));
+    case WidthRule::Kind::ValuePlus:
+      return std::string(bare(field.width.field)) + " + " + std::to_string(field.width.addend);
+    case WidthRule::Kind::Rest: return "the rest";
+  }
+  return {};
+}
+
+std::string condition_text(const FieldSpec& field) {
+  std::string text;
+  const std::string name(bare(field.present.field));
+  switch (field.present.kind) {
+    case PresenceRule::Kind::Always: break;
+    case PresenceRule::Kind::IsOne: text = "if " + name + " = 1"; break;
+    case PresenceRule::Kind::IsZero: text = "if " + name + " = 0"; break;
+    case PresenceRule::Kind::IsAboveZero: text = "if " + name + " > 0"; break;
+    case PresenceRule::Kind::InChain: text = "if it or a later flag is 1"; break;
+    case PresenceRule::Kind::AnyIsOne:
+      text = "if " + name + " or " + std::string(bare(field.present.other)) + " = 1";
+      break;
+  }
+  if (!field.present.also_one.empty()) text += " and " + std::string(bare(field.present.also_one)) + " = 1";
+  if (field.present.also_in_tail) text += ", in the tail";
+  if (is_repeated(field)) {
+    text += text.empty() ? "x " : ", x ";
+    text += field.repeat.times != 0 ? std::to_string(field.repeat.times) : std::string(bare(field.repeat.count));
+    if (!field.repeat.added_count.empty()) text += " + " + std::string(bare(field.repeat.added_count));
+    if (field.repeat.record != 0) text += " records";
+  }
+  return text;
+}
+
+std::string origin_text(const MessageSpec& message, const FieldSpec& field) {
+  if (!message.builds()) return "received";
+  if (field.constant) return "constant";
+  if (field.from.at_create || (field.build != nullptr && !field.from.property.empty())) {
+    return "configuration: " + std::string(field.from.property);
+  }
+  if (field.build != nullptr) return "computed";
+  return field.from.exists() ? "set, at first from configuration: " + std::string(field.from.property) : "set";
+}
+
+}  // namespace
+
+std::vector<FieldInfo> MessageClass::list_fields() const {
+  std::vector<FieldInfo> list;
+  if (id_bits() != 0) {
+    list.push_back({"MessageID",
+                    std::to_string(id_bits()),
+                    {},
+                    std::string(spec_->id),
+                    {},
+                    spec_->id.empty() ? "received" : "constant"});
+  }
+  for (const Field& field : fields_) {
+    const FieldSpec& spec = *field.spec;
+    FieldInfo info{spec.name, width_text(spec), condition_text(spec), {}, {}, origin_text(*spec_, spec)};
+    if (!spec.sent || spec.integer) info.condition = "not on the air";
+    if (!spec.same_as.empty())
+      info.condition += (info.condition.empty() ? "" : ", ") + ("the same as " + std::string(bare(spec.same_as)));
+    if (spec_->builds() && (is_stored(spec) || spec.constant)) info.initial = field.initial;
+    if (spec.meaning != nullptr) info.unit = spec.meaning->summary.empty() ? spec.meaning->unit : spec.meaning->summary;
+    list.push_back(std::move(info));
+  }
+  return list;
+}
+
+std::vector<ErrorInfo> MessageClass::list_errors() const {
+  std::vector<ErrorInfo> list;
+  const MessageSpec& message = *spec_;
+  const auto add = [&](std::string source, std::string_view text, std::string_view when) {
+    if (!text.empty()) list.push_back({std::move(source), std::string(text), std::string(when)});
+  };
+  if (message.builds()) {
+    add(message.create_source.empty() ? source_of(message, "CreateMessage") : std::string(message.create_source),
+        message.not_initialized, "CreateMessage before Initialize");
+  }
+  if (message.parses()) {
+    if (!message.string_unchecked) {
+      add(message.string_source.empty() ? source_of(message, "PRstr_MessageString")
+                                        : std::string(message.string_source),
+          message.string_not_set.empty() ? message.not_set : message.string_not_set,
+          "get before a message is received");
+    }
+    if (message.id.empty()) {
+      add(message.id_source.empty() ? source_of(message, "PRstr_MessageID") : std::string(message.id_source),
+          message.id_not_set.empty() ? message.not_set : message.id_not_set, "get before a message is received");
+    }
+  }
+  struct Kind {
+    Fault fault;
+    std::string_view when;
+  };
+  static constexpr Kind kOfSetters[] = {{Fault::EncoderMode, "let in encoder mode"},
+                                        {Fault::BeyondCount, "let with an index beyond the count"},
+                                        {Fault::WrongLength, "let of another width"}};
+  static constexpr Kind kOfGetters[] = {{Fault::GetBeyondCount, "get with an index beyond the count"},
+                                        {Fault::Absent, "get of what the received message does not carry"}};
+  for (const FieldSpec& field : message.fields) {
+    if (!is_property(field)) continue;
+    if (message.builds() && is_stored(field) && field.exposure != Exposure::GetOnly) {
+      for (const Kind& kind : kOfSetters) {
+        if (kind.fault == Fault::BeyondCount && !is_repeated(field)) continue;
+        add(source_of(message, field, kind.fault), text_of(message, field, kind.fault), kind.when);
+      }
+    }
+    for (const Kind& kind : kOfGetters) {
+      if (kind.fault == Fault::GetBeyondCount && !is_repeated(field)) continue;
+      add(source_of(message, field, kind.fault), text_of(message, field, kind.fault), kind.when);
+    }
+    if (!message.builds()) {
+      add(source_of(message, field, Fault::NotSet), text_of(message, field, Fault::NotSet),
+          "get before a message is received");
+    }
+  }
+  return list;
+}
+
+}  // namespace vorlan

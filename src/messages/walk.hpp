@@ -1,0 +1,136 @@
+// The one walk over a message's rows. Encoding walks over stored values, decoding over received bits; which fields are
+// there, how often and how wide is decided here for both.
+#pragma once
+
+#include "common/conversions.hpp"
+#include "messages/message_class.hpp"
+
+namespace vorlan {
+
+/// A bit string's value, where only zero, one and small counts matter: no error, however odd the text.
+constexpr std::size_t small_value(std::string_view bits) noexcept {
+  std::size_t value = 0;
+  for (const char bit : bits) value = (value << 1U) | (bit == '1' ? 1U : 0U);
+  return value;
+}
+
+/// Walks the rows. A side gives values and takes visits:
+///   std::string_view value(std::size_t field, std::size_t index): of an earlier field, in the same record if repeated
+///   bool tail_is_there(std::size_t field): whether a flag of an optional chain, or a tail, is there at all
+///   std::size_t rest(): what is left of the message, for a field that takes it all
+///   void begin(const MessageClass::Group& group, std::size_t count): the next group and its number of repetitions
+///   void visit(std::size_t field, std::size_t index, std::size_t width): the next field
+///   void skip(std::size_t field, std::size_t index): a field that is not there
+///   bool done(): nothing is left to be repeated
+template <class Side>
+void walk(const MessageClass& message, Side& side) {
+  const auto fields = message.fields();
+  const auto value = [&](std::int16_t field, std::size_t index) {
+    return side.value(static_cast<std::size_t>(field), index);
+  };
+  const auto is_there = [&](const MessageClass::Field& field, std::size_t i, std::size_t index) {
+    if (field.also_one != MessageClass::kNone && value(field.also_one, index) != "1") return false;
+    if (field.spec->present.also_in_tail && !side.tail_is_there(message.tail())) return false;
+    switch (field.spec->present.kind) {
+      case PresenceRule::Kind::Always: return true;
+      case PresenceRule::Kind::IsOne: return value(field.present_field, index) == "1";
+      case PresenceRule::Kind::IsZero: return value(field.present_field, index) == "0";
+      case PresenceRule::Kind::IsAboveZero: return small_value(value(field.present_field, index)) != 0;
+      case PresenceRule::Kind::InChain:
+      case PresenceRule::Kind::AnyIsOne: return side.tail_is_there(i);
+    }
+    return true;
+  };
+  const auto width_of = [&](const MessageClass::Field& field, std::size_t index) -> std::size_t {
+    const WidthRule& rule = field.spec->width;
+    switch (rule.kind) {
+      case WidthRule::Kind::Fixed: return field.spec->bits;
+      case WidthRule::Kind::OctetsCountedBy: return 8 * small_value(value(field.width_field, index));
+      case WidthRule::Kind::ValuePlus: return small_value(value(field.width_field, index)) + rule.addend;
+      case WidthRule::Kind::Rest: return side.rest();
+    }
+    return 0;
+  };
+  for (const MessageClass::Group& group : message.groups()) {
+    std::size_t count = 1;
+    if (group.times != 0) {
+      count = group.times;
+    } else if (group.repeated) {
+      count = small_value(value(group.count, 0));
+      if (group.added_count != MessageClass::kNone) count += small_value(value(group.added_count, 0));
+    }
+    side.begin(group, count);
+    for (std::size_t index = 0; index < count && !(group.repeated && side.done()); ++index) {
+      for (std::size_t i = group.first; i < group.end; ++i) {
+        const MessageClass::Field& field = fields[i];
+        if (!field.spec->sent || field.spec->integer) continue;
+        if (is_there(field, i, index)) {
+          side.visit(i, index, width_of(field, index));
+        } else {
+          side.skip(i, index);
+        }
+      }
+    }
+  }
+}
+
+/// Where a field's bits stand in a received message. Whatever lies past the message's end is empty.
+struct Extent {
+  std::uint32_t offset = 0;
+  std::uint32_t width = 0;
+  bool present = true;  ///< false: the message says that it does not carry the field
+};
+
+/// Where every field of a received message stands: found in one pass, whatever is read afterwards.
+class Layout {
+ public:
+  struct Visit {
+    std::uint16_t field;
+    std::uint16_t index;
+    Extent extent;
+  };
+
+  Layout() = default;
+  /// `stored` gives the values of layout-selecting integers and of fields that are not sent, by slot.
+  void find(const MessageClass& message, std::string_view bits, std::span<const std::string> stored);
+
+  [[nodiscard]] Extent extent(std::size_t field, std::size_t index = 0) const noexcept {
+    return extents_[places_[field].first + index * places_[field].stride];
+  }
+  /// How many elements of a field the message promises.
+  [[nodiscard]] std::size_t count(std::size_t field) const noexcept { return places_[field].count; }
+  /// Where the last field ends; past the end of a message that is too short.
+  [[nodiscard]] std::size_t end() const noexcept { return position_; }
+
+  // The decoding side of walk().
+  [[nodiscard]] std::string_view value(std::size_t field, std::size_t index) const noexcept;
+  [[nodiscard]] bool tail_is_there(std::size_t field) noexcept;
+  [[nodiscard]] std::size_t rest() const noexcept { return done() ? 0 : bits_.size() - position_; }
+  void begin(const MessageClass::Group& group, std::size_t count);
+  void visit(std::size_t field, std::size_t index, std::size_t width) noexcept;
+  void skip(std::size_t field, std::size_t index) noexcept;
+  [[nodiscard]] bool done() const noexcept { return position_ >= bits_.size(); }
+
+ private:
+  /// The elements of a field stand `stride` extents apart: those of a record side by side.
+  struct Place {
+    std::uint32_t first = 0;
+    std::uint32_t stride = 0;
+    std::uint32_t count = 0;
+  };
+
+  const MessageClass* message_ = nullptr;
+  std::string_view bits_;
+  std::span<const std::string> stored_;
+  std::size_t position_ = 0;
+  enum class Tail : std::uint8_t { Unknown, There, Absent } tail_ = Tail::Unknown;
+  std::vector<Place> places_;
+  std::vector<Extent> extents_;
+};
+
+/// The part of a bit string that an extent covers, as far as the bit string goes.
+constexpr std::string_view slice(std::string_view bits, Extent extent) noexcept {
+  return extent.offset < bits.size() ? bits.substr(extent.offset, extent.width) : std::string_view{};
+}
+
+}  // namespace vorlan
