@@ -51,6 +51,12 @@ class Message : public ClassObject {
   void let_field(std::size_t field, std::size_t index, std::string_view value);
   [[nodiscard]] std::string_view get_field(std::size_t field) const;
   [[nodiscard]] std::string_view get_field(std::size_t field, std::size_t index) const;
+  /// The width that a setter takes now; 0 where the row fixes none.
+  [[nodiscard]] std::size_t accepted_width(std::size_t field) const noexcept;
+  /// Of a single field whatever the index, of a list the element: for those who walk over all fields.
+  [[nodiscard]] std::string_view get_field_or_element(std::size_t field, std::size_t index) const {
+    return is_repeated(*class_.field(field).spec) ? get_field(field, index) : get_field(field);
+  }
   /// The stored value, no check made, and the number of stored elements.
   [[nodiscard]] std::string_view stored(std::size_t field, std::size_t index = 0) const noexcept;
   [[nodiscard]] std::size_t stored_count(std::size_t field) const noexcept;
@@ -72,7 +78,6 @@ class Message : public ClassObject {
  private:
   Value invoke_field(std::size_t field, Access access, std::span<Value> arguments);
   void check_letting(const FieldSpec& spec) const;
-  [[nodiscard]] std::size_t accepted_width(std::size_t field) const noexcept;
   void check_width(std::size_t field, std::size_t index, std::string_view value) const;
   void resize_lists(std::size_t count_field);
   void take_initial_configuration();

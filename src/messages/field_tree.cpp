@@ -1,0 +1,70 @@
+#include "messages/field_tree.hpp"
+
+#include <algorithm>
+#include <vector>
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::size_t kBitsPerLine = 32;
+
+struct Line {
+  std::string name;
+  std::string first;
+  std::string bits;
+  std::string value;
+};
+
+void add_lines(std::span<const DissectedField> tree, std::size_t depth, std::vector<Line>& lines) {
+  for (const DissectedField& field : tree) {
+    Line line{std::string(2 * depth, ' ') + field.name, std::to_string(field.first), {}, field.value};
+    if (!field.note.empty()) line.value += (line.value.empty() ? "(" : "  (") + field.note + ")";
+    std::string_view bits = field.bits;
+    // The first line takes what is over, so that the groups of the lines below are whole.
+    const std::size_t over = bits.size() % kBitsPerLine;
+    const std::size_t head = std::min(bits.size(), over == 0 ? kBitsPerLine : over);
+    line.bits = grouped_bits(bits.substr(0, head));
+    lines.push_back(std::move(line));
+    for (bits.remove_prefix(head); !bits.empty(); bits.remove_prefix(kBitsPerLine)) {
+      lines.push_back({{}, {}, grouped_bits(bits.substr(0, kBitsPerLine)), {}});
+    }
+    add_lines(field.below, depth + 1, lines);
+  }
+}
+
+}  // namespace
+
+std::string grouped_bits(std::string_view bits) {
+  std::string text;
+  for (std::size_t i = 0; i < bits.size(); ++i) {
+    if (i > 0 && (bits.size() - i) % 4 == 0) text += ' ';
+    text += bits[i];
+  }
+  return text;
+}
+
+std::string field_tree_text(std::span<const DissectedField> tree, std::string_view indent) {
+  std::vector<Line> lines{{"Field", "Bit", "Bits", "Value"}};
+  add_lines(tree, 0, lines);
+  std::size_t name = 0;
+  std::size_t first = 0;
+  std::size_t bits = 0;
+  for (const Line& line : lines) {
+    name = std::max(name, line.name.size());
+    first = std::max(first, line.first.size());
+    bits = std::max(bits, line.bits.size());
+  }
+  std::string text;
+  for (const Line& line : lines) {
+    std::string row(indent);
+    row.append(line.name).append(name - line.name.size() + 2 + first - line.first.size(), ' ');
+    row.append(line.first).append(2, ' ').append(line.bits).append(bits - line.bits.size() + 2, ' ');
+    row.append(line.value);
+    row.erase(row.find_last_not_of(' ') + 1);
+    text.append(row).append("\n");
+  }
+  return text;
+}
+
+}  // namespace vorlan
