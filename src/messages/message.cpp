@@ -131,15 +131,18 @@ void Message::check_counts() const {
   const MessageSpec& spec = class_.spec();
   for (const MessageClass::Field& field : class_.fields()) {
     if (field.spec->too_few.empty()) continue;
-    const std::size_t count = small_value(stored(find_field(spec.fields, field.spec->repeat.count)));
+    if (field.two_names && (field.same_as != MessageClass::kNone) != second_names_) continue;
+    const Repetition& repeat = field.spec->repeat;
+    const std::size_t count = repeat.times != 0 ? repeat.times : small_value(stored(find_field(spec.fields, repeat.count)));
     const auto& list = lists_[static_cast<std::size_t>(field.slot)];
+    const bool enough = field.spec->on_resize == OnResize::GrowByIndex ? list.size() == count : list.size() >= count;
     const auto end = list.begin() + static_cast<std::ptrdiff_t>(std::min(count, list.size()));
-    if (list.size() >= count && std::none_of(list.begin(), end, [](const auto& element) { return element.empty(); })) {
-      continue;
-    }
+    if (enough && std::none_of(list.begin(), end, [](const auto& element) { return element.empty(); })) continue;
     std::string source(spec.check_source.empty() ? spec.create_source : spec.check_source);
     if (source.empty()) source = source_of(spec, "CreateMessage");
-    vorlan::raise(source, std::string(field.spec->too_few) + std::to_string(count) + std::string(spec.too_few_end));
+    std::string text(field.spec->too_few);
+    if (repeat.times == 0) text.append(std::to_string(count)).append(spec.too_few_end);
+    vorlan::raise(source, text);
   }
 }
 
@@ -213,6 +216,7 @@ void Message::let_field(std::size_t field, std::string_view value) {
   check_letting(*row.spec);
   check_width(field, 0, value);
   if (row.spec->view != nullptr) return;
+  if (row.two_names) second_names_ = row.same_as != MessageClass::kNone;
   std::string& text = texts_[static_cast<std::size_t>(row.slot)];
   const std::size_t target = row.same_as != MessageClass::kNone ? static_cast<std::size_t>(row.same_as) : field;
   if (class_.sized_by(target).empty()) {
@@ -230,14 +234,18 @@ void Message::let_field(std::size_t field, std::string_view value) {
   }
 }
 
+std::size_t Message::largest_count(const FieldSpec& spec) const noexcept {
+  const FieldSpec& count = class_.spec().fields[find_field(class_.spec().fields, spec.repeat.count)];
+  return (std::size_t{1} << count.bits) - 1;
+}
+
 void Message::let_field(std::size_t field, std::size_t index, std::string_view value) {
   const MessageClass::Field& row = class_.field(field);
   const FieldSpec& spec = *row.spec;
   check_letting(spec);
   auto& list = lists_[static_cast<std::size_t>(row.slot)];
   const bool grows = spec.on_resize == OnResize::GrowByIndex;
-  const std::size_t count =
-      grows ? small_value(stored(find_field(class_.spec().fields, spec.repeat.count))) : list.size();
+  const std::size_t count = grows ? largest_count(spec) : list.size();
   if (index >= count && !text_of(class_.spec(), spec, Fault::BeyondCount).empty()) {
     raise(spec, Fault::BeyondCount,
           class_.spec().names_highest_index ? std::to_string(static_cast<std::int64_t>(count) - 1) : std::string());
@@ -245,6 +253,7 @@ void Message::let_field(std::size_t field, std::size_t index, std::string_view v
   check_width(field, index, value);
   if (index >= count) throw Error(ErrorNumber::SubscriptOutOfRange, source_of(class_.spec(), spec, Fault::BeyondCount));
   if (spec.view != nullptr) return;
+  if (row.two_names) second_names_ = row.same_as != MessageClass::kNone;
   if (index >= list.size()) list.resize(index + 1);
   list[index] = value;
 }
@@ -255,7 +264,7 @@ void Message::resize_lists(std::size_t count_field) {
   for (const std::uint16_t i : class_.sized_by(count_field)) {
     const MessageClass::Field& row = class_.field(i);
     const FieldSpec& spec = *row.spec;
-    if (spec.on_resize == OnResize::GrowByIndex || row.same_as != MessageClass::kNone) continue;
+    if (row.same_as != MessageClass::kNone) continue;
     std::size_t count = small_value(stored(find_field(class_.spec().fields, spec.repeat.count)));
     if (!spec.repeat.added_count.empty()) {
       count += small_value(stored(find_field(class_.spec().fields, spec.repeat.added_count)));
@@ -267,7 +276,8 @@ void Message::resize_lists(std::size_t count_field) {
       initial.assign(accepted_width(i), '0');
     }
     auto& list = resized.emplace_back(row.slot, std::vector<std::string>()).second;
-    if (spec.on_resize == OnResize::KeepOld) list = lists_[static_cast<std::size_t>(row.slot)];
+    if (spec.on_resize != OnResize::StartAfresh) list = lists_[static_cast<std::size_t>(row.slot)];
+    if (spec.on_resize == OnResize::GrowByIndex) count = std::min(count, list.size());
     list.resize(count, initial);
   }
   for (auto& [slot, list] : resized) lists_[slot] = std::move(list);

@@ -53,6 +53,7 @@ class Message : public ClassObject {
   [[nodiscard]] std::string_view get_field(std::size_t field, std::size_t index) const;
   /// The width that a setter takes now; 0 where the row fixes none.
   [[nodiscard]] std::size_t accepted_width(std::size_t field) const noexcept;
+  [[nodiscard]] std::size_t largest_count(const FieldSpec& list) const noexcept;
   /// Of a single field whatever the index, of a list the element: for those who walk over all fields.
   [[nodiscard]] std::string_view get_field_or_element(std::size_t field, std::size_t index) const {
     return is_repeated(*class_.field(field).spec) ? get_field(field, index) : get_field(field);
@@ -90,6 +91,7 @@ class Message : public ClassObject {
   const MessageClass& class_;
   std::vector<std::string> texts_;
   std::vector<std::vector<std::string>> lists_;
+  bool second_names_ = false;  ///< what has two names was last set by the second one
 
   bool initialized_ = false;
   bool encoder_mode_ = false;

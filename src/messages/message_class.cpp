@@ -80,7 +80,11 @@ void MessageClass::resolve() {
       initial_texts_.push_back(field.initial);
     }
     // A second name shares the first one's slot.
-    if (field.same_as != kNone) field.slot = fields_[static_cast<std::size_t>(field.same_as)].slot;
+    if (field.same_as != kNone) {
+      Field& first = fields_[static_cast<std::size_t>(field.same_as)];
+      field.slot = first.slot;
+      field.two_names = first.two_names = is_property(spec) && is_property(*first.spec);
+    }
   }
   for (std::size_t i = 0; i < fields_.size();) {
     const Repetition& repeat = fields_[i].spec->repeat;

@@ -26,6 +26,7 @@ class MessageClass {
     std::int16_t present_other = kNone;
     std::int16_t also_one = kNone;
     std::int16_t same_as = kNone;  ///< where the value is stored, if not here
+    bool two_names = false;        ///< two properties stand for the value
     std::int16_t slot = kNone;     ///< of the value: in the texts, or of the elements: in the lists
     std::int32_t offset = kNone;   ///< in every received message, where nothing before it varies
     std::string initial;

@@ -86,7 +86,9 @@ constexpr Repetition times(std::uint8_t number) { return {.times = number}; }
 enum class OnResize : std::uint8_t {
   StartAfresh,  ///< every element starts with its initial value
   KeepOld,      ///< elements within the new count stay
-  GrowByIndex,  ///< nothing: the elements come one by one, by being set
+  /// Those beyond a smaller count go. Elements come one by one, by being set, even before the count is;
+  /// CreateMessage checks that there are as many as the count says.
+  GrowByIndex,
 };
 
 /// What a setter accepts besides the field's own width.
@@ -165,7 +167,8 @@ struct FieldSpec {
   std::string_view not_set = {};           ///< getter, before a message is received
   std::string_view absent = {};            ///< getter, when the received message does not carry the field
   std::string_view too_few = {};           ///< CreateMessage, a list with less elements than its count says: this
-                                           ///< text, the count, MessageSpec::too_few_end
+                                           ///< text, the count, MessageSpec::too_few_end (a fixed list: this alone).
+                                           ///< With two names, that of the name last used
 
   // Sources; none: class, full stop, name.
   std::string_view source = {};         ///< of every error of the row

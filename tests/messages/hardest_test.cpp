@@ -108,10 +108,10 @@ TEST(TrafficChannelAssignment, SendsTheTailOnlyWhenAsked) {
   EXPECT_EQ(start.substr(39 + 10, 6), "000110");
 
   message.let<"PRstr_MACIndexMSBsIncluded">("1");
-  EXPECT_EQ(message.encode(), start + bits({"0", "1", "111", "10001", "001", "010"}) + "00");
+  EXPECT_EQ(message.encode(), start + bits({"0", "1", "111", "10001", "001", "010"}) + "0");
   message.let<"PRstr_RAChannelGainIncluded">("1");
   message.let<"PRstr_RAChannelGain">(1, "11");
-  EXPECT_EQ(message.encode(), start + bits({"1", "001100", "1", "111", "10001", "001", "010"}) + "0000");
+  EXPECT_EQ(message.encode(), start + bits({"1", "001100", "1", "111", "10001", "001", "010"}) + "000");
 }
 
 TEST(TrafficChannelAssignment, KeepsMACIndexAndItsPartsConsistent) {

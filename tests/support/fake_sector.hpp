@@ -19,7 +19,7 @@ class PropertyBag : public Object {
     bool operator()(std::string_view a, std::string_view b) const noexcept { return a < b; }
   };
 
-  explicit PropertyBag(std::map<std::string, Value, Less> values) : values(std::move(values)) {}
+  explicit PropertyBag(std::map<std::string, Value, Less> initial) : values(std::move(initial)) {}
 
   Value invoke(std::string_view member, Access, std::span<Value> arguments) override {
     const auto found = values.find(member);
