@@ -9,6 +9,9 @@ namespace vorlan {
 
 std::span<const ClassEntry> session_message_classes() noexcept;
 std::span<const ClassEntry> connection_message_classes() noexcept;
+std::span<const ClassEntry> mac_message_classes() noexcept;
 std::span<const ClassEntry> application_message_classes() noexcept;
+std::span<const ClassEntry> stream_message_classes() noexcept;
+std::span<const ClassEntry> testapp_message_classes() noexcept;
 
 }  // namespace vorlan

@@ -8,6 +8,14 @@ Value Configuration::value(std::string_view property, std::string_view section) 
   return deref(parameters_, property).get(property, section);
 }
 
+void Configuration::append(std::string_view property, std::string& bits) const {
+  if (const std::string* held = deref(parameters_, property).held_text(property)) {
+    bits += *held;
+  } else {
+    bits += text(property);
+  }
+}
+
 std::string Configuration::text(std::string_view property, std::string_view section) const {
   Value found = value(property, section);
   if (auto* text = found.as<std::string>()) return std::move(*text);

@@ -43,7 +43,11 @@ class Encoder {
     } else if (spec.view != nullptr) {
       bits_ += spec.view(message_, index);
     } else if (spec.from.at_create) {
-      bits_ += message_.configured_text(spec.from);
+      if (spec.from.read == nullptr && spec.from.bits == 0) {
+        message_.configuration().append(spec.from.property, bits_);
+      } else {
+        bits_ += message_.configured_text(spec.from);
+      }
     } else {
       bits_ += message_.stored(field, index);
     }
@@ -54,6 +58,11 @@ class Encoder {
   Message& message_;
   std::string& bits_;
 };
+
+/// What a list's count can say at most.
+std::size_t largest_count(const MessageSpec& message, const FieldSpec& list) noexcept {
+  return (std::size_t{1} << message.fields[find_field(message.fields, list.repeat.count)].bits) - 1;
+}
 
 }  // namespace
 
@@ -80,12 +89,17 @@ void Message::raise(const FieldSpec& spec, Fault fault, std::string_view appende
                 std::string(text_of(class_.spec(), spec, fault)).append(appended), help);
 }
 
+Object& Message::existing(const Ref<Object>& object, std::string_view member) const {
+  if (!object) throw Error(ErrorNumber::ObjectNotSet, source_of(class_.spec(), member));
+  return *object;
+}
+
 // --- building
 
 void Message::initialize(Ref<Object> sector, Ref<Object> test_set, std::string_view encoder_string) {
   Ref<Object> parameters;
   if (class_.spec().takes_sector) {
-    parameters = deref(sector, source_of(class_.spec(), "Initialize")).get("PRobj_GlobalParameters").to_object();
+    parameters = existing(sector, "Initialize").get("PRobj_GlobalParameters").to_object();
   }
   std::swap(sector_, sector);
   std::swap(parameters_, parameters);
@@ -133,7 +147,8 @@ void Message::check_counts() const {
     if (field.spec->too_few.empty()) continue;
     if (field.two_names && (field.same_as != MessageClass::kNone) != second_names_) continue;
     const Repetition& repeat = field.spec->repeat;
-    const std::size_t count = repeat.times != 0 ? repeat.times : small_value(stored(find_field(spec.fields, repeat.count)));
+    const std::size_t count =
+        repeat.times != 0 ? repeat.times : small_value(stored(find_field(spec.fields, repeat.count)));
     const auto& list = lists_[static_cast<std::size_t>(field.slot)];
     const bool enough = field.spec->on_resize == OnResize::GrowByIndex ? list.size() == count : list.size() >= count;
     const auto end = list.begin() + static_cast<std::ptrdiff_t>(std::min(count, list.size()));
@@ -177,7 +192,7 @@ std::string Message::encode(std::span<const Value> arguments) {
 bool Message::create_message(const Ref<Object>& message_object, std::span<const Value> arguments) {
   const std::string bits = encode(arguments);
   if (bits.size() > kMaxMessageBits) throw Error(ErrorNumber::Overflow, source_of(class_.spec(), "CreateMessage"));
-  Object& target = deref(message_object, source_of(class_.spec(), "CreateMessage"));
+  Object& target = existing(message_object, "CreateMessage");
   target.let("Length", static_cast<std::int16_t>(bits.size()));
   bits_to_message(bits, target);
   return true;
@@ -234,18 +249,13 @@ void Message::let_field(std::size_t field, std::string_view value) {
   }
 }
 
-std::size_t Message::largest_count(const FieldSpec& spec) const noexcept {
-  const FieldSpec& count = class_.spec().fields[find_field(class_.spec().fields, spec.repeat.count)];
-  return (std::size_t{1} << count.bits) - 1;
-}
-
 void Message::let_field(std::size_t field, std::size_t index, std::string_view value) {
   const MessageClass::Field& row = class_.field(field);
   const FieldSpec& spec = *row.spec;
   check_letting(spec);
   auto& list = lists_[static_cast<std::size_t>(row.slot)];
   const bool grows = spec.on_resize == OnResize::GrowByIndex;
-  const std::size_t count = grows ? largest_count(spec) : list.size();
+  const std::size_t count = grows ? largest_count(class_.spec(), spec) : list.size();
   if (index >= count && !text_of(class_.spec(), spec, Fault::BeyondCount).empty()) {
     raise(spec, Fault::BeyondCount,
           class_.spec().names_highest_index ? std::to_string(static_cast<std::int64_t>(count) - 1) : std::string());
@@ -278,6 +288,7 @@ void Message::resize_lists(std::size_t count_field) {
     auto& list = resized.emplace_back(row.slot, std::vector<std::string>()).second;
     if (spec.on_resize != OnResize::StartAfresh) list = lists_[static_cast<std::size_t>(row.slot)];
     if (spec.on_resize == OnResize::GrowByIndex) count = std::min(count, list.size());
+    if (spec.first_stays) count = std::max(count, std::size_t{1});
     list.resize(count, initial);
   }
   for (auto& [slot, list] : resized) lists_[slot] = std::move(list);
@@ -365,7 +376,7 @@ std::string_view Message::get_field(std::size_t field, std::size_t index) const 
 // --- receiving
 
 void Message::receive(Ref<Object> message_object) {
-  std::string bits = read_whole_octets(deref(message_object, source_of(class_.spec(), "PRobj_MessageObject")));
+  std::string bits = read_whole_octets(existing(message_object, "PRobj_MessageObject"));
   message_object_ = std::move(message_object);
   message_string_ = std::move(bits);
   received_ = true;

@@ -53,7 +53,6 @@ class Message : public ClassObject {
   [[nodiscard]] std::string_view get_field(std::size_t field, std::size_t index) const;
   /// The width that a setter takes now; 0 where the row fixes none.
   [[nodiscard]] std::size_t accepted_width(std::size_t field) const noexcept;
-  [[nodiscard]] std::size_t largest_count(const FieldSpec& list) const noexcept;
   /// Of a single field whatever the index, of a list the element: for those who walk over all fields.
   [[nodiscard]] std::string_view get_field_or_element(std::size_t field, std::size_t index) const {
     return is_repeated(*class_.field(field).spec) ? get_field(field, index) : get_field(field);
@@ -69,7 +68,7 @@ class Message : public ClassObject {
     return stored(row(name), index);
   }
 
-  [[nodiscard]] Configuration configuration() const { return {sector_, parameters_}; }
+  [[nodiscard]] Configuration configuration() const noexcept { return {sector_, parameters_}; }
   /// What a row takes from the configuration now.
   [[nodiscard]] std::string configured_text(const Configured& from) const;
 
@@ -86,6 +85,7 @@ class Message : public ClassObject {
   void find_layout() const;
   [[nodiscard]] std::string_view unreceived(std::size_t field, std::size_t index) const;
   [[nodiscard]] Extent received_extent(std::size_t field, std::size_t index) const;
+  [[nodiscard]] Object& existing(const Ref<Object>& object, std::string_view member) const;
   [[noreturn]] void raise(const FieldSpec& spec, Fault fault, std::string_view appended = {}) const;
 
   const MessageClass& class_;

@@ -50,7 +50,7 @@ std::string origin_text(const MessageSpec& message, const FieldSpec& field) {
   if (field.from.at_create || (field.build != nullptr && !field.from.property.empty())) {
     return "configuration: " + std::string(field.from.property);
   }
-  if (field.build != nullptr) return "computed";
+  if (field.build != nullptr || (field.view != nullptr && field.exposure == Exposure::GetOnly)) return "computed";
   return field.from.exists() ? "set, at first from configuration: " + std::string(field.from.property) : "set";
 }
 
@@ -112,11 +112,19 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
                                         {Fault::Absent, "get of what the received message does not carry"}};
   for (const FieldSpec& field : message.fields) {
     if (!is_property(field)) continue;
-    if (message.builds() && is_stored(field) && field.exposure != Exposure::GetOnly) {
+    const bool settable = is_stored(field) || !field.same_as.empty();
+    if (message.builds() && settable && field.exposure != Exposure::GetOnly) {
       for (const Kind& kind : kOfSetters) {
         if (kind.fault == Fault::BeyondCount && !is_repeated(field)) continue;
         add(source_of(message, field, kind.fault), text_of(message, field, kind.fault), kind.when);
       }
+    }
+    if (!field.too_few.empty()) {
+      std::string_view source = message.check_source.empty() ? message.create_source : message.check_source;
+      std::string text(field.too_few);
+      if (field.repeat.times == 0) text.append("...").append(message.too_few_end);
+      add(source.empty() ? source_of(message, "CreateMessage") : std::string(source), text,
+          "CreateMessage with " + std::string(bare(field.name)) + " not as its count says");
     }
     for (const Kind& kind : kOfGetters) {
       if (kind.fault == Fault::GetBeyondCount && !is_repeated(field)) continue;

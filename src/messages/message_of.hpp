@@ -36,7 +36,7 @@ class MessageOf : public Message {
   }
   template <MemberName Name>
   void let(std::size_t element, std::string_view value) {
-    let_field(index<Name>(), element, value);
+    let_field(index<Name, true>(), element, value);
   }
   template <MemberName Name>
   [[nodiscard]] std::string_view get() const {
@@ -44,7 +44,7 @@ class MessageOf : public Message {
   }
   template <MemberName Name>
   [[nodiscard]] std::string_view get(std::size_t element) const {
-    return get_field(index<Name>(), element);
+    return get_field(index<Name, true>(), element);
   }
 
   static const MessageClass& shared_class() {
@@ -56,10 +56,11 @@ class MessageOf : public Message {
   static Ref<Object> create(Platform&) { return make<MessageOf>(); }
 
  private:
-  template <MemberName Name>
+  template <MemberName Name, bool kOfList = false>
   static constexpr std::size_t index() {
     constexpr std::size_t kIndex = find_field(Spec.fields, Name.view());
     static_assert(kIndex < Spec.fields.size(), "the message has no such member");
+    static_assert(is_repeated(Spec.fields[kIndex]) == kOfList, "a list takes an index, any other member takes none");
     return kIndex;
   }
 };

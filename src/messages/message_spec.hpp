@@ -10,6 +10,7 @@
 
 #include "automation/value.hpp"
 #include "messages/meaning.hpp"
+#include "messages/protocol.hpp"
 
 namespace vorlan {
 
@@ -138,6 +139,7 @@ struct FieldSpec {
   PresenceRule present = {};
   Repetition repeat = {};
   OnResize on_resize = OnResize::StartAfresh;
+  bool first_stays = false;  ///< the first element can be set whatever the count says, which alone decides what is sent
   Configured from = {};
   /// Makes what CreateMessage joins, where it is neither the stored value nor a value of the configuration.
   void (*build)(const BuildContext& context, std::string& bits) = nullptr;
@@ -187,6 +189,7 @@ struct MessageSpec {
   std::string_view name;     ///< "SB_Ses_MsgSessionClose"
   std::string_view summary;  ///< one line
   std::string_view clause;   ///< of C.S0024
+  Protocol protocol = Protocol::None;
   Direction direction = Direction::Built;
   std::string_view id = {};           ///< the constant MessageID, "00000001"; none: not held by the class
   std::uint8_t received_id_bits = 8;  ///< width of the MessageID in a received message; 0: the message has none

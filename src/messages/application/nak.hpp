@@ -65,11 +65,13 @@ inline constexpr MessageSpec kNak{
     .name = "SB_App_MsgNak",
     .summary = "Either side asks for octets again that it has not received.",
     .clause = "3.4.4.2.2",
+    .protocol = Protocol::DefaultPacket,
     .direction = Direction::Both,
     .id = "00000010",
     .fields = kNakFields,
     .not_initialized = "Please Call <Initialize> of Nak Message first.",
     .in_encoder_mode = "Encoder and this property cannot be used simultaneously",
+    .not_set = "Nak message object set to nothing. Please set <PRobj_MessageObject> property first.",
 };
 using SB_App_MsgNak = MessageOf<kNak>;
 

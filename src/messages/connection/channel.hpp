@@ -1,7 +1,9 @@
-// The 24-bit channel record (C.S0024-A 14.1).
+// The 24-bit channel record (C.S0024-A 12).
 #pragma once
 
 #include <string>
+
+#include "messages/meaning.hpp"
 
 namespace vorlan {
 
@@ -9,5 +11,8 @@ class Configuration;
 
 /// SystemType 8, BandClass 5, ChannelNumber 11 of the sector's own channel.
 std::string channel_of_sector(Configuration& configuration);
+
+inline constexpr Code kSystemTypes[] = {{0, "HRPD"}, {1, "cdma2000 1x"}, {2, "HRPD, forward channel not paired"}};
+inline constexpr Meaning kSystemType{.codes = kSystemTypes, .summary = "system"};
 
 }  // namespace vorlan

@@ -59,6 +59,7 @@ inline constexpr MessageSpec kRouteUpdate{
     .name = "SB_Con_MsgRouteUpdate",
     .summary = "The access terminal reports the pilots that it receives.",
     .clause = "8.7.6.2.1",
+    .protocol = Protocol::RouteUpdate,
     .direction = Direction::Parsed,
     .id_value = 0x00,
     .has_id_value = true,

@@ -183,6 +183,7 @@ inline constexpr MessageSpec kSectorParameters{
     .name = "SB_Con_MsgSectorParameters",
     .summary = "The sector's identity, position, channels and neighbours.",
     .clause = "8.9.6.2.2",
+    .protocol = Protocol::OverheadMessages,
     .id = "00000001",
     .fields = kSectorParametersFields,
     .takes_sector = true,

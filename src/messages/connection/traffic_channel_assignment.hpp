@@ -153,6 +153,7 @@ inline constexpr MessageSpec kTrafficChannelAssignment{
     .name = "SB_Con_MsgTrafficChannelAssignment",
     .summary = "The access network assigns a traffic channel, or changes the active set.",
     .clause = "8.7.6.2.2",
+    .protocol = Protocol::RouteUpdate,
     .id = "00000001",
     .fields = kTrafficChannelAssignmentFields,
     .takes_sector = true,

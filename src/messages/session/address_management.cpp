@@ -11,12 +11,14 @@ constexpr std::size_t kLowBits = 24;
 
 }  // namespace
 
-std::string upper_sector_id(Configuration& configuration) {
-  std::string id = configuration.text("PRstr_SectorID127_96");
-  id += configuration.text("PRstr_SectorID95_64");
-  id += configuration.text("PRstr_SectorID63_32");
-  id += configuration.text("PRstr_SectorID");
-  return id.substr(0, kUpperBits);
+void upper_sector_id(const BuildContext& context, std::string& bits) {
+  const Configuration configuration = context.message.configuration();
+  const std::size_t start = bits.size();
+  configuration.append("PRstr_SectorID127_96", bits);
+  configuration.append("PRstr_SectorID95_64", bits);
+  configuration.append("PRstr_SectorID63_32", bits);
+  configuration.append("PRstr_SectorID", bits);
+  if (bits.size() > start + kUpperBits) bits.resize(start + kUpperBits);
 }
 
 void colour_code(const BuildContext& context, std::string& bits) {
@@ -31,9 +33,10 @@ void colour_code(const BuildContext& context, std::string& bits) {
   bits += configuration.text("PRstr_ColorCode", number < 3 ? "SECTOR 0" : "SECTOR 3");
 }
 
-std::string low_uati(Configuration& configuration) {
-  std::string uati = configuration.text("PRstr_UATI");
-  return uati.size() > kLowBits ? uati.substr(uati.size() - kLowBits) : uati;
+void low_uati(const BuildContext& context, std::string& bits) {
+  const std::size_t start = bits.size();
+  context.message.configuration().append("PRstr_UATI", bits);
+  if (bits.size() > start + kLowBits) bits.erase(start, bits.size() - start - kLowBits);
 }
 
 void check_hardware_id_value(const Message& message, std::string_view value) {

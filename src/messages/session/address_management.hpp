@@ -1,4 +1,4 @@
-// Address Management Protocol messages (C.S0024-A 5.3) of the session layer.
+// Address Management Protocol messages (C.S0024-A 7.3) of the session layer.
 #pragma once
 
 #include "messages/message_of.hpp"
@@ -7,11 +7,11 @@ namespace vorlan {
 
 namespace address_management {
 /// The upper 104 of the 128 bits of the sector's identifier.
-std::string upper_sector_id(Configuration& configuration);
+void upper_sector_id(const BuildContext& context, std::string& bits);
 /// CreateMessage's colour-code argument, else the colour code of the sector's base station.
 void colour_code(const BuildContext& context, std::string& bits);
 /// The low 24 bits of the sector's UATI.
-std::string low_uati(Configuration& configuration);
+void low_uati(const BuildContext& context, std::string& bits);
 }  // namespace address_management
 
 inline constexpr FieldSpec kUATIRequestFields[] = {
@@ -20,7 +20,8 @@ inline constexpr FieldSpec kUATIRequestFields[] = {
 inline constexpr MessageSpec kUATIRequest{
     .name = "SB_Ses_MsgUATIRequest",
     .summary = "The access terminal asks for a UATI.",
-    .clause = "5.3.7.2.1",
+    .clause = "7.3.7.2.1",
+    .protocol = Protocol::AddressManagement,
     .direction = Direction::Parsed,
     .id_value = 0x00,
     .has_id_value = true,
@@ -48,14 +49,13 @@ inline constexpr FieldSpec kUATIAssignmentFields[] = {
     {.name = "UATI104",
      .bits = 104,
      .present = is_one("PRstr_SubnetIncluded"),
-     .from = {.property = "PRstr_SectorID", .read = address_management::upper_sector_id, .at_create = true}},
+     .from = {.property = "PRstr_SectorID"},
+     .build = address_management::upper_sector_id},
     {.name = "UATIColorCode",
      .bits = 8,
      .from = {.property = "PRstr_ColorCode"},
      .build = address_management::colour_code},
-    {.name = "UATI024",
-     .bits = 24,
-     .from = {.property = "PRstr_UATI", .read = address_management::low_uati, .at_create = true}},
+    {.name = "UATI024", .bits = 24, .from = {.property = "PRstr_UATI"}, .build = address_management::low_uati},
     {.name = "PRstr_UpperOldUATILength",
      .bits = 4,
      .initial = "0010",
@@ -66,7 +66,8 @@ inline constexpr std::string_view kUATIAssignmentArguments[] = {"UATIColorCode"}
 inline constexpr MessageSpec kUATIAssignment{
     .name = "SB_Ses_MsgUATIAssignment",
     .summary = "The access network assigns a UATI.",
-    .clause = "5.3.7.2.2",
+    .clause = "7.3.7.2.2",
+    .protocol = Protocol::AddressManagement,
     .id = "00000001",
     .fields = kUATIAssignmentFields,
     .takes_sector = true,
@@ -87,7 +88,8 @@ inline constexpr FieldSpec kUATICompleteFields[] = {
 inline constexpr MessageSpec kUATIComplete{
     .name = "SB_Ses_MsgUATIComplete",
     .summary = "The access terminal has taken the UATI.",
-    .clause = "5.3.7.2.3",
+    .clause = "7.3.7.2.3",
+    .protocol = Protocol::AddressManagement,
     .direction = Direction::Parsed,
     .id_value = 0x02,
     .has_id_value = true,
@@ -106,7 +108,8 @@ inline constexpr FieldSpec kHardwareIDRequestFields[] = {
 inline constexpr MessageSpec kHardwareIDRequest{
     .name = "SB_Ses_MsgHardwareIDRequest",
     .summary = "The access network asks for the access terminal's hardware identifier.",
-    .clause = "5.3.7.2.4",
+    .clause = "7.3.7.2.4",
+    .protocol = Protocol::AddressManagement,
     .id = "00000011",
     .fields = kHardwareIDRequestFields,
     .not_initialized = "Class not initialized. Please call <Initialize> of HardwareIDRequest Message first.",
@@ -145,7 +148,8 @@ inline constexpr FieldSpec kHardwareIDResponseFields[] = {
 inline constexpr MessageSpec kHardwareIDResponse{
     .name = "SB_Ses_MsgHardwareIDResponse",
     .summary = "The access terminal's hardware identifier.",
-    .clause = "5.3.7.2.5",
+    .clause = "7.3.7.2.5",
+    .protocol = Protocol::AddressManagement,
     .direction = Direction::Parsed,
     .id_value = 0x04,
     .has_id_value = true,

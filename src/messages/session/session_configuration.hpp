@@ -1,4 +1,4 @@
-// Session Configuration Protocol messages (C.S0024-A 5.4) of the session layer, but for those that carry attributes.
+// Session Configuration Protocol messages (C.S0024-A 7.4) of the session layer, but for those that carry attributes.
 #pragma once
 
 #include "messages/message_of.hpp"
@@ -8,7 +8,8 @@ namespace vorlan {
 inline constexpr MessageSpec kConfigurationStart{
     .name = "SB_Ses_MsgConfigurationStart",
     .summary = "The access network opens the session configuration.",
-    .clause = "5.4.6.2.1",
+    .clause = "7.4.6.2.1",
+    .protocol = Protocol::SessionConfiguration,
     .id = "00000001",
     .not_initialized = "Class not initialized. Please call <Initialize> of ConfigurationStart Message first.",
 };
@@ -32,7 +33,8 @@ inline constexpr FieldSpec kConfigurationCompleteFields[] = {
 inline constexpr MessageSpec kConfigurationComplete{
     .name = "SB_Ses_MsgConfigurationComplete",
     .summary = "The sender has no more to negotiate.",
-    .clause = "5.4.6.2.2",
+    .clause = "7.4.6.2.2",
+    .protocol = Protocol::SessionConfiguration,
     .direction = Direction::Both,
     .id = "00000000",
     .fields = kConfigurationCompleteFields,
@@ -87,7 +89,8 @@ inline constexpr std::string_view kSoftConfigurationCompleteArguments[] = {"Afte
 inline constexpr MessageSpec kSoftConfigurationComplete{
     .name = "SB_Ses_MsgSoftConfigurationComplete",
     .summary = "Closes the negotiation of one personality.",
-    .clause = "5.4.6.2.5",
+    .clause = "7.4.6.2.5",
+    .protocol = Protocol::SessionConfiguration,
     .direction = Direction::Both,
     .id = "00000010",
     .fields = kSoftConfigurationCompleteFields,

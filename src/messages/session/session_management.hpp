@@ -1,4 +1,4 @@
-// Session Management Protocol messages (C.S0024-A 5.2) of the session layer.
+// Session Management Protocol messages (C.S0024-A 7.2) of the session layer.
 #pragma once
 
 #include "messages/meanings.hpp"
@@ -45,7 +45,8 @@ inline constexpr FieldSpec kSessionCloseFields[] = {
 inline constexpr MessageSpec kSessionClose{
     .name = "SB_Ses_MsgSessionClose",
     .summary = "Either side closes the session.",
-    .clause = "5.2.6.2.1",
+    .clause = "7.2.6.2.1",
+    .protocol = Protocol::SessionManagement,
     .direction = Direction::Both,
     .id = "00000001",
     .fields = kSessionCloseFields,
@@ -66,7 +67,8 @@ inline constexpr FieldSpec kKeepAliveFields[] = {
 inline constexpr MessageSpec kKeepAliveRequest{
     .name = "SB_Ses_MsgKeepAliveRequest",
     .summary = "Either side asks whether the other still holds the session.",
-    .clause = "5.2.6.2.2",
+    .clause = "7.2.6.2.2",
+    .protocol = Protocol::SessionManagement,
     .direction = Direction::Both,
     .id = "00000010",
     .fields = kKeepAliveFields,
@@ -78,7 +80,8 @@ using SB_Ses_MsgKeepAliveRequest = MessageOf<kKeepAliveRequest>;
 inline constexpr MessageSpec kKeepAliveResponse{
     .name = "SB_Ses_MsgKeepAliveResponse",
     .summary = "The answer to KeepAliveRequest.",
-    .clause = "5.2.6.2.3",
+    .clause = "7.2.6.2.3",
+    .protocol = Protocol::SessionManagement,
     .direction = Direction::Both,
     .id = "00000011",
     .fields = kKeepAliveFields,

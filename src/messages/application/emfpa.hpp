@@ -1,0 +1,11 @@
+// What messages of the enhanced multi-flow packet application (C.S0063-A) share.
+#pragma once
+
+#include "messages/meaning.hpp"
+
+namespace vorlan::emfpa {
+
+inline constexpr Code kRoutes[] = {{0, "route A"}, {1, "route B"}};
+inline constexpr Meaning kRoute{.codes = kRoutes, .summary = "route A or B"};
+
+}  // namespace vorlan::emfpa

@@ -1,0 +1,24 @@
+#include "messages/stream/application_data.hpp"
+
+#include "automation/error.hpp"
+#include "common/conversions.hpp"
+
+namespace vorlan::stream {
+
+void create_application_data(const BuildContext& context, std::string& bits) {
+  if (context.message.encodes_verbatim()) {
+    bits = context.message.encoder_string();
+    return;
+  }
+  bits += context.message.stored("PRstr_VirtualStream");
+  bits += context.message.stored("PRstr_Reserved");
+  add_padding(bits);
+}
+
+void check_virtual_stream(const Message&, std::size_t, std::string_view value) {
+  if (value == "0000000") {
+    raise("SB_App_MsgApplicationData.PRstr_VirtualStream", "Value of <VirtualStream> Field cannot be 0000000.");
+  }
+}
+
+}  // namespace vorlan::stream
