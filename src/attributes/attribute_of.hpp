@@ -1,0 +1,71 @@
+// The C++ face of a simple attribute class: a type of its own, with its members checked when it is compiled.
+#pragma once
+
+#include "attributes/simple_attribute.hpp"
+#include "automation/registry.hpp"
+
+namespace vorlan {
+
+/// A property's name as a template argument.
+struct AttributeProperty {
+  AttributeMember member;
+
+  template <std::size_t N>
+  constexpr AttributeProperty(const char (&name)[N]) : member(find({name, N - 1})) {}  // NOLINT: a name as it is
+
+ private:
+  static constexpr AttributeMember find(std::string_view name) {
+    for (const auto member :
+         {AttributeMember::Attribute, AttributeMember::Length, AttributeMember::AttribId, AttributeMember::AttrValue}) {
+      if (member_name(member) == name) return member;
+    }
+    throw "the attribute has no such property";  // at compile time: what does not find its name does not compile
+  }
+};
+
+/// The class made from a row:
+///   SB_Mac_AttrFRABlow a;
+///   a.let<"PRstr_AttrValue">("00000001");
+///   a.build();
+/// Views returned by get() hold until the object changes.
+template <const SimpleAttributeSpec& Spec>
+class AttributeOf : public SimpleAttribute {
+ public:
+  AttributeOf() : SimpleAttribute(shared_class()) {}
+  // A local or a member object keeps the one reference that it starts with, and goes without releasing it.
+  ~AttributeOf() override = default;
+
+  using Object::get;
+  using Object::let;
+
+  template <AttributeProperty Property>
+  void let(std::string_view bits) {
+    static_assert(Property.member != AttributeMember::AttribId || Spec.id_settable, "the AttributeID is fixed");
+    if constexpr (Property.member == AttributeMember::Attribute) receive(bits);
+    if constexpr (Property.member == AttributeMember::Length) let_length(bits);
+    if constexpr (Property.member == AttributeMember::AttribId) let_id(bits);
+    if constexpr (Property.member == AttributeMember::AttrValue) let_value(bits);
+  }
+  template <AttributeProperty Property>
+  [[nodiscard]] std::string_view get() const noexcept {
+    if constexpr (Property.member == AttributeMember::Attribute) return record();
+    if constexpr (Property.member == AttributeMember::Length) return length();
+    if constexpr (Property.member == AttributeMember::AttribId) return id();
+    if constexpr (Property.member == AttributeMember::AttrValue) return value();
+  }
+
+  static const SimpleAttributeClass& shared_class() {
+    static_assert(fault(Spec).empty(), "a fault in the attribute's row; the test of the attribute tables prints it");
+    static const SimpleAttributeClass kClass{Spec};
+    return kClass;
+  }
+  static const ClassInfo& info() { return shared_class().info(); }
+  static Ref<Object> create(Platform&) { return make<AttributeOf>(); }
+};
+
+template <const SimpleAttributeSpec& Spec>
+constexpr ClassEntry attribute_entry() {
+  return {Spec.name, &AttributeOf<Spec>::info, &AttributeOf<Spec>::create};
+}
+
+}  // namespace vorlan
