@@ -39,11 +39,28 @@ std::size_t fold_hash(std::string_view name) noexcept {
   return static_cast<std::size_t>(hash >> 40U);
 }
 
+constexpr std::uint8_t bit(Access access) noexcept {
+  return static_cast<std::uint8_t>(1U << static_cast<unsigned>(access));
+}
+
+}  // namespace
+
+namespace {
+
+/// Names are short: comparing words in place is quicker than a call.
+bool same(const char* a, const char* b, std::size_t size) noexcept {
+  if (size < 8) return std::equal(a, a + size, b);
+  for (std::size_t i = 0; i + 8 < size; i += 8) {
+    if (load(a + i) != load(b + i)) return false;
+  }
+  return load(a + size - 8) == load(b + size - 8);
+}
+
 }  // namespace
 
 bool equals_ignoring_case(std::string_view a, std::string_view b) noexcept {
   if (a.size() != b.size()) return false;
-  if (std::memcmp(a.data(), b.data(), a.size()) == 0) return true;
+  if (same(a.data(), b.data(), a.size())) return true;
   return std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return lower(x) == lower(y); });
 }
 
@@ -70,33 +87,42 @@ ClassInfo::ClassInfo(Texts texts, std::vector<MemberInfo> members, std::vector<F
       fields_(std::move(fields)),
       errors_(std::move(errors)),
       slots_(std::bit_ceil(members_.size() * 2 + 1), -1) {
+  dispatch_.reserve(members_.size());
   for (std::size_t i = 0; i < members_.size(); ++i) {
-    if (find(members_[i].name) >= 0) {
-      throw std::logic_error(std::string(texts.name) + " lists a member twice: " + std::string(members_[i].name));
+    const MemberInfo& member = members_[i];
+    if (find(member.name) >= 0) {
+      throw std::logic_error(std::string(texts.name) + " lists a member twice: " + std::string(member.name));
     }
-    std::size_t slot = fold_hash(members_[i].name);
+    Dispatch& dispatch = dispatch_.emplace_back();
+    dispatch.name = member.name;
+    for (const Access access : {Access::Get, Access::Let, Access::Set, Access::Call}) {
+      if (member.allows(access)) dispatch.allowed |= bit(access);
+    }
+    dispatch.required = static_cast<std::uint8_t>(member.required_parameters());
+    dispatch.parameters = static_cast<std::uint8_t>(member.parameters.size());
+    std::size_t slot = fold_hash(member.name);
     while (slots_[slot & (slots_.size() - 1)] >= 0) ++slot;
     slots_[slot & (slots_.size() - 1)] = static_cast<std::int16_t>(i);
   }
 }
 
 int ClassInfo::find(std::string_view member) const noexcept {
+  const std::size_t mask = slots_.size() - 1;
   for (std::size_t slot = fold_hash(member);; ++slot) {
-    const int index = slots_[slot & (slots_.size() - 1)];
-    if (index < 0 || equals_ignoring_case(members_[static_cast<std::size_t>(index)].name, member)) return index;
+    const int index = slots_[slot & mask];
+    if (index < 0 || equals_ignoring_case(dispatch_[static_cast<std::size_t>(index)].name, member)) return index;
   }
 }
 
 Value ClassObject::invoke(std::string_view member, Access access, std::span<Value> arguments) {
   const int index = info_->find(member);
   if (index < 0) throw Error(ErrorNumber::MemberNotFound, info_->name(), member);
-  const MemberInfo& info = info_->members()[static_cast<std::size_t>(index)];
-  const auto source = [&] { return std::string(info_->name()) + "." + std::string(info.name); };
-  if (!info.allows(access)) throw Error(ErrorNumber::MemberNotFound, source(), "this access");
+  const ClassInfo::Dispatch& dispatch = info_->dispatch(index);
+  const auto source = [&] { return std::string(info_->name()) + "." + std::string(dispatch.name); };
+  if ((dispatch.allowed & bit(access)) == 0) throw Error(ErrorNumber::MemberNotFound, source(), "this access");
   const bool assigns = access == Access::Let || access == Access::Set;
-  const std::size_t given = arguments.size() - (assigns && !arguments.empty() ? 1 : 0);
-  if ((assigns && arguments.empty()) || given > info.parameters.size() ||
-      (given < info.parameters.size() && given < info.required_parameters())) {
+  if (arguments.size() < dispatch.required + (assigns ? 1U : 0U) ||
+      arguments.size() > dispatch.parameters + (assigns ? 1U : 0U)) {
     throw Error(ErrorNumber::WrongArgumentCount, source());
   }
   try {

@@ -73,11 +73,23 @@ class ClassInfo {
   /// The index of a member, found without regard to case; -1 if there is none.
   [[nodiscard]] int find(std::string_view member) const noexcept;
 
+  /// What a call must know of a member, kept small and together: every late-bound call looks here.
+  struct Dispatch {
+    std::string_view name;
+    std::uint8_t allowed = 0;  ///< a bit per Access
+    std::uint8_t required = 0;
+    std::uint8_t parameters = 0;
+  };
+  [[nodiscard]] const Dispatch& dispatch(int member) const noexcept {
+    return dispatch_[static_cast<std::size_t>(member)];
+  }
+
  private:
   Texts texts_;
   std::vector<MemberInfo> members_;
   std::vector<FieldInfo> fields_;
   std::vector<ErrorInfo> errors_;
+  std::vector<Dispatch> dispatch_;   // in the order of members_
   std::vector<std::int16_t> slots_;  // open addressing; a power of two of them, -1 where free
 };
 

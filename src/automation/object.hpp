@@ -45,6 +45,10 @@ class Object {
   /// The octets of an in-process message object; null for every other object.
   [[nodiscard]] virtual OctetBuffer* octet_buffer() noexcept { return nullptr; }
 
+  /// The text that a property of an in-process object holds, without a copy: no arguments, or an empty first one.
+  /// Null where there is no such text and the property has to be got. It holds until the object changes.
+  [[nodiscard]] virtual const std::string* held_text(std::string_view) const noexcept { return nullptr; }
+
   template <class... Arguments>
   Value get(std::string_view member, Arguments&&... arguments) {
     return with(member, Access::Get, std::forward<Arguments>(arguments)...);
@@ -80,7 +84,7 @@ class Object {
   std::atomic<std::uint32_t> references_{1};
 };
 
-/// Calls a member of an object that may be Nothing: error 91 with this source then.
+/// The object that a reference must not lack: error 91 with this source for Nothing.
 Object& deref(const Ref<Object>& object, std::string_view source);
 
 }  // namespace vorlan

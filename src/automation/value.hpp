@@ -61,8 +61,8 @@ class Value {
   Value(double value) noexcept : data_(value) {}
   Value(Date value) noexcept : data_(value) {}
   Value(std::string value) noexcept : data_(std::move(value)) {}
-  Value(std::string_view value) : data_(std::string(value)) {}
-  Value(const char* value) : data_(std::string(value)) {}
+  Value(std::string_view value) : data_(std::in_place_type<std::string>, value) {}
+  Value(const char* value) : data_(std::in_place_type<std::string>, value) {}
   Value(Array value) noexcept : data_(std::move(value)) {}
   Value(Ref<Object> value) noexcept : data_(std::move(value)) {}
   template <std::derived_from<Object> T>
