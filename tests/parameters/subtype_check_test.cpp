@@ -1,0 +1,85 @@
+// Corrections of protocol subtypes, with the lines that report them.
+#include <gtest/gtest.h>
+
+#include "parameters/subtype_check.hpp"
+
+namespace vorlan {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+TEST(SubtypeCheck, CorrectsAndWarns) {
+  const std::string needs =
+      " is supported only with Physical Layer SubType 2, MAC FTC Layer SubType 1 and MAC RTC Layer SubType 3";
+  const std::string to_phy = "Initialising the value of Physical Layer SubType to 2";
+  const std::string to_ftc = "Initialising the value of MAC FTC Layer SubType to 1";
+  const std::string to_rtc = "Initialising the value of MAC RTC Layer SubType to 3";
+  struct Case {
+    SubtypeSet given;  // physical, RTC, FTC, idle, CC, ACH, application, async, sub-sync
+    SubtypeSet corrected;
+    Lines warnings;
+  };
+  const Case cases[] = {
+      {{0, 0, 0, 0, 0, 0, 0, 4, 0}, {0, 0, 0, 0, 0, 0, 0, 4, 0}, {}},
+      {{2, 3, 1, 1, 1, 1, 1, 9, 9}, {2, 3, 1, 1, 1, 1, 1, 9, 9}, {}},
+      {{-1, -1, -1, -1, -1, -1, -1, -1, -1}, {-1, -1, -1, -1, -1, -1, -1, -1, -1}, {}},
+      {{3, 0, 0, 0, 0, 0, 0, 5, 0},
+       {0, 0, 0, 0, 0, 0, 0, 5, 0},
+       {"Warning: Invalid value 3 for Physical Layer SubType[PhyLaySubType]. The valid range for Physical Layer "
+        "SubType is between [-1,2]",
+        "Initialising the value of Physical Layer SubType to 0"}},
+      {{2, 4, 2, 0, 0, 0, 0, 4, 0},
+       {2, 3, 1, 0, 0, 0, 0, 4, 0},
+       {"Warning: Invalid value 2 for MAC Layer FTC SubType[MACLayFTCSubType]. The valid range for MAC Layer FTC "
+        "SubType is between [-1,1]",
+        "Initialising the value of  MAC Layer FTC SubType to 1",
+        "Warning: Invalid value 4 for MAC Layer RTC SubType[MACLayRTCSubType]. The valid range for MAC Layer RTC "
+        "SubType is between [-1,3]",
+        "Initialising the value of  MAC Layer RTC SubType to 3"}},
+      {{1, -2, -2, 2, 2, -2, 0, 4, 0},
+       {1, 1, 0, 0, 0, 0, 0, 4, 0},
+       {"Warning: Invalid value -2 for MAC Layer FTC SubType[MACLayFTCSubType]. The valid range for MAC Layer FTC "
+        "SubType is between [-1,1]",
+        "Initialising the value of  MAC Layer FTC SubType to 0",
+        "Warning: Invalid value -2 for MAC Layer RTC SubType[MACLayRTCSubType]. The valid range for MAC Layer RTC "
+        "SubType is between [-1,3]",
+        "Initialising the value of  MAC Layer RTC SubType to 1",
+        "Warning: Invalid value 2 for Idle State SubType[IdleStateSubType]. The valid range for Idle State SubType is "
+        "between [-1,1]",
+        "Initialising the value of  Idle State SubType to 0",
+        "Warning: Invalid value 2 for MAC Layer CC SubType[MACLayCCSubType]. The valid range for MAC Layer CC SubType "
+        "is between [-1,1]",
+        "Initialising the value of  MAC Layer CC SubType to 0",
+        "Warning: Invalid value -2 for MAC Layer ACH SubType[MACLayACHSubType]. The valid range for MAC Layer ACH "
+        "SubType is between [-1,1]",
+        "Initialising the value of  MAC Layer ACH SubType to 0"}},
+      {{0, 0, 0, 0, 0, 0, 1, 4, 0},
+       {2, 3, 1, 0, 0, 0, 1, 4, 0},
+       {"Warning: Multi-Flow Packet Application" + needs, to_phy, to_ftc, to_rtc}},
+      {{2, 3, 0, 1, 0, 0, 0, 4, 0},
+       {2, 3, 1, 1, 0, 0, 0, 4, 0},
+       {"W arning: Enhanced Idle State Protocol" + needs, to_ftc}},
+      {{2, 1, 1, 0, 1, 1, 0, 0, 0},
+       {2, 3, 1, 0, 1, 1, 0, 0, 0},
+       {"Warning: Enhanced Control Channel MAC Protocol" + needs, to_rtc}},
+      {{1, 3, 1, 0, 0, 1, 0, 4, 0},
+       {2, 3, 1, 0, 0, 1, 0, 4, 0},
+       {"Warning: Enhanced Access Channel MAC Protocol" + needs, to_phy}},
+      {{1, 3, 0, 0, 0, 0, 0, 4, 0},
+       {1, 1, 0, 0, 0, 0, 0, 4, 0},
+       {"Warning: MAC RTC Layer SubType 3 is not supported with Physical Layer SubType 1"}},
+      {{0, 3, 0, 0, 0, 0, 0, 6, 0},
+       {0, 0, 0, 0, 0, 0, 0, 4, 0},
+       {"Warning: MAC RTC Layer SubType 3 is not supported with Physical Layer SubType 0",
+        "Warning: Valid Value of Async rate are in the range 4..5 for Default Control Channel (CCMAC Subtype 0)",
+        "Initialising the value of Async Rate (for CCMAC Subtype 0) to 4"}},
+  };
+  for (const Case& c : cases) {
+    SubtypeSet subtypes = c.given;
+    EXPECT_EQ(correct_subtypes(subtypes), c.warnings);
+    EXPECT_EQ(subtypes, c.corrected);
+  }
+}
+
+}  // namespace
+}  // namespace vorlan
