@@ -1,0 +1,193 @@
+// vorlan encode and vorlan decode
+#include <algorithm>
+#include <cstdio>
+
+#include "automation/error.hpp"
+#include "cli/assignment.hpp"
+#include "cli/commands.hpp"
+#include "cli/field_value.hpp"
+#include "cli/names.hpp"
+#include "cli/octets.hpp"
+#include "cli/sector.hpp"
+#include "common/bits.hpp"
+#include "messages/field_tree.hpp"
+#include "messages/message.hpp"
+#include "nlohmann/json.hpp"
+#include "simulator/message_object.hpp"
+
+namespace vorlan::cli {
+
+namespace {
+
+using Controls = std::vector<std::pair<std::string, std::string>>;
+using nlohmann::ordered_json;
+
+/// What an assignment sets: a field of the message, or an argument of CreateMessage.
+struct Target {
+  Assignment assignment;
+  std::size_t row;  ///< one past the last row: an argument
+  std::size_t argument;
+};
+
+/// The message behind an object of the registry; error 438 if it is an object of another kind.
+Message& message_behind(const Ref<Object>& object, std::string_view class_name, std::string_view wanted) {
+  auto* const message = dynamic_cast<Message*>(object.get());
+  if (message == nullptr) throw Error(ErrorNumber::MemberNotFound, class_name, wanted);
+  return *message;
+}
+
+ordered_json tree_json(std::span<const DissectedField> tree) {
+  auto list = ordered_json::array();
+  for (const DissectedField& field : tree) {
+    ordered_json node{{"name", field.name}, {"first", field.first}};
+    if (field.below.empty()) node.update({{"width", field.bits.size()}, {"bits", field.bits}, {"value", field.value}});
+    if (!field.note.empty()) node["note"] = field.note;
+    if (!field.below.empty()) node["fields"] = tree_json(field.below);
+    list.push_back(std::move(node));
+  }
+  return list;
+}
+
+void print_message(const MessageClass& message, std::span<const std::uint8_t> octets, std::size_t length,
+                   const Controls& controls, bool json) {
+  std::string bits(length, '0');
+  unpack_bits(octets.data(), length, bits.data());
+  const auto tree = dissect(message, bits, controls);
+  const std::string name(message.info().name());
+  if (json) {
+    const ordered_json whole{
+        {"class", name}, {"length", length}, {"octets", octets_text(octets)}, {"fields", tree_json(tree)}};
+    std::puts(whole.dump(2).c_str());
+    return;
+  }
+  std::printf("%s, %zu bits\n", name.c_str(), length);
+  constexpr std::size_t kOctetsPerLine = 24;
+  for (auto left = octets; !left.empty(); left = left.subspan(std::min(kOctetsPerLine, left.size()))) {
+    std::printf("  %s\n", octets_text(left.first(std::min(kOctetsPerLine, left.size()))).c_str());
+  }
+  std::printf("\n%s", field_tree_text(tree, "  ").c_str());
+}
+
+Target resolve(const MessageClass& message, Assignment assignment) {
+  const auto fields = message.fields();
+  const auto arguments = message.spec().arguments;
+  const auto named = [&](std::string_view member) { return same_member(assignment.name, member); };
+  const auto row = std::find_if(fields.begin(), fields.end(), [&](const MessageClass::Field& field) {
+    return is_property(*field.spec) && named(field.spec->name);
+  });
+  const auto argument = std::find_if(arguments.begin(), arguments.end(), named);
+  if (row == fields.end() && argument == arguments.end()) {
+    const bool on_air = std::any_of(fields.begin(), fields.end(), [&](const auto& f) { return named(f.spec->name); });
+    throw Error(ErrorNumber::MemberNotFound, message.info().name(),
+                assignment.name + (on_air ? " (a script cannot set it)" : ""));
+  }
+  return {std::move(assignment), static_cast<std::size_t>(row - fields.begin()),
+          static_cast<std::size_t>(argument - arguments.begin())};
+}
+
+/// In the order of the rows, so that counts come before their lists; a usage error if something is set twice.
+std::vector<Target> resolve(const MessageClass& message, const std::vector<std::string>& words) {
+  std::vector<Target> targets;
+  targets.reserve(words.size());
+  for (const std::string& word : words) targets.push_back(resolve(message, parse_assignment(word)));
+  const auto key = [](const Target& t) { return std::tuple(t.row, t.argument, t.assignment.index_number()); };
+  std::stable_sort(targets.begin(), targets.end(), [&](const auto& a, const auto& b) { return key(a) < key(b); });
+  const auto twice = std::adjacent_find(targets.begin(), targets.end(), [&](const auto& a, const auto& b) {
+    return key(a) == key(b) && a.assignment.index == b.assignment.index;
+  });
+  if (twice != targets.end()) throw UsageError(twice->assignment.name + " is given twice");
+  return targets;
+}
+
+void assign(Message& message, const Target& target) {
+  const FieldSpec& field = *message.message_class().field(target.row).spec;
+  const Assignment& given = target.assignment;
+  const std::string source = source_of(message.message_class().spec(), field.name);
+  const std::string value =
+      field.integer ? given.value : field_bits(given.value, message.accepted_width(target.row), source);
+  if (given.index) {
+    message.Object::let(field.name, *given.index, value);
+  } else {
+    message.Object::let(field.name, value);
+  }
+}
+
+Value argument(const MessageClass& message, const Target& target) {
+  const std::string_view name = message.spec().arguments[target.argument];
+  const auto fields = message.fields();
+  const auto field =
+      std::find_if(fields.begin(), fields.end(), [&](const auto& f) { return same_member(name, f.spec->name); });
+  if (target.assignment.index) throw UsageError(target.assignment.name + " has no index");
+  return field_bits(target.assignment.value, field == fields.end() ? 0 : field->spec->bits,
+                    source_of(message.spec(), "CreateMessage"));
+}
+
+Controls layout_controls(const Message& message) {
+  Controls controls;
+  const auto fields = message.message_class().fields();
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (fields[i].spec->integer) controls.emplace_back(fields[i].spec->name, message.stored(i));
+  }
+  return controls;
+}
+
+}  // namespace
+
+void encode(const Registry& registry, const EncodeOptions& options, bool json) {
+  const Registry::Class& named = class_named(registry, options.class_name);
+  Platform platform = native_platform();
+  const Ref<Object> object = named.entry->create(platform);
+  Message& message = message_behind(object, named.name(), "CreateMessage");
+  const MessageSpec& spec = message.message_class().spec();
+  if (!spec.builds()) throw Error(ErrorNumber::MemberNotFound, spec.name, "CreateMessage (it is only received)");
+  const std::vector<Target> targets = resolve(message.message_class(), options.assignments);
+
+  Ref<Object> sector;
+  if (spec.takes_sector) {
+    if (options.parameter_file.empty()) {
+      throw UsageError(std::string(spec.name) + " takes values from a sector's configuration: give --config FILE");
+    }
+    sector = configured_sector(registry, platform, options.parameter_file, options.sector);
+  }
+  message.initialize(std::move(sector), {}, {});
+  std::vector<Value> arguments(spec.arguments.size());
+  for (const Target& target : targets) {
+    if (target.row < message.message_class().fields().size()) {
+      assign(message, target);
+    } else {
+      arguments[target.argument] = argument(message.message_class(), target);
+    }
+  }
+  const auto built = make<simulator::MessageObject>();
+  message.create_message(built, arguments);
+  // A message object may hold octets past the end of its message.
+  const auto length = static_cast<std::size_t>(built->length());
+  print_message(message.message_class(), built->octets().first(octets_for(length)), length, layout_controls(message),
+                json);
+}
+
+void decode(const Registry& registry, const std::string& class_name, const std::vector<std::string>& words, bool json) {
+  const Registry::Class& named = class_named(registry, class_name);
+  Platform platform = native_platform();
+  const Ref<Object> object = named.entry->create(platform);
+  Message& message = message_behind(object, named.name(), "PRobj_MessageObject");
+  std::vector<std::string> digits;
+  for (const std::string& word : words) {
+    if (word.find('=') == std::string::npos) {
+      digits.push_back(word);
+      continue;
+    }
+    const Target target = resolve(message.message_class(), parse_assignment(word));
+    const auto fields = message.message_class().fields();
+    if (target.row == fields.size() || !fields[target.row].spec->integer) {
+      throw Error(ErrorNumber::MemberNotFound, named.name(), target.assignment.name + " (it selects no layout)");
+    }
+    assign(message, target);
+  }
+  if (digits.empty()) throw UsageError("no octets given");
+  const std::vector<std::uint8_t> octets = parse_octets(digits);
+  if (octets.empty()) throw UsageError("no octets given");
+  print_message(message.message_class(), octets, octets.size() * 8, layout_controls(message), json);
+}
+
+}  // namespace vorlan::cli

@@ -1,0 +1,106 @@
+// The command line: reads the arguments, runs a command, and makes an exit code of what went wrong: 1 for an automation
+// error, 2 for wrong usage.
+#include <cstdio>
+
+#include "CLI/CLI.hpp"
+#include "automation/error.hpp"
+#include "cli/commands.hpp"
+#include "cli/field_value.hpp"
+#include "nlohmann/json.hpp"
+#include "server/classes.hpp"
+#include "simulator/message_object.hpp"
+
+namespace {
+
+using namespace vorlan;
+
+constexpr int kAutomationError = 1;
+constexpr int kWrongUsage = 2;
+
+Registry all_classes() {
+  const auto own = class_tables();
+  std::vector<ClassTable> tables(own.begin(), own.end());
+  tables.push_back({"VorlanSim", simulator::classes()});
+  return Registry(tables);
+}
+
+void report(const Error& error, bool json) {
+  if (json) {
+    const nlohmann::ordered_json object{
+        {"error", {{"number", error.number()}, {"source", error.source()}, {"description", error.description()}}}};
+    std::fprintf(stderr, "%s\n", object.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace).c_str());
+    return;
+  }
+  std::fprintf(stderr, "vorlan: error %d%s%s: %s\n", error.number(), error.source().empty() ? "" : " in ",
+               error.source().c_str(), error.description().c_str());
+}
+
+/// The options of all commands, and the commands themselves.
+struct CommandLine {
+  CommandLine() {
+    app.require_subcommand(1);
+    app.footer("Exit codes: 0; 1 an automation error (number, source, description); 2 wrong usage.");
+
+    classes->add_option("PATTERN", name, "a name or part of it, with * and ? as in a shell");
+    describe->add_option("CLASS", name, "the class, in upper or lower case")->required();
+
+    encode->add_option("CLASS", encoding.class_name, "the message class")->required();
+    encode->add_option("FIELD=VALUE", encoding.assignments,
+                       "fields, and optional arguments of CreateMessage; FIELD[i]=VALUE for one of a list");
+    encode->add_option("--config", encoding.parameter_file, "parameter file of the sector whose values are sent")
+        ->type_name("FILE");
+    encode->add_option("--sector", encoding.sector, "the sector's section in that file (default: SECTOR 0)")
+        ->type_name("NAME");
+    encode->footer(
+        "A field's name may go without its PRstr_. Counts are set before their lists, however they are typed.\n\n" +
+        std::string(cli::kValueRule));
+
+    decode->add_option("CLASS", name, "the message class")->required();
+    decode
+        ->add_option("HEX", words,
+                     "octets in hexadecimal, in one or several words; and PROPERTY=VALUE for a property that selects "
+                     "a layout, such as PRint_NakType=1")
+        ->required();
+    for (CLI::App* command : {classes, describe, encode, decode}) command->add_flag("--json", json, "print JSON");
+  }
+
+  void run() {
+    const Registry registry = all_classes();
+    if (classes->parsed()) cli::list_classes(registry, name, json);
+    if (describe->parsed()) cli::describe_class(registry, name, json);
+    if (encode->parsed()) cli::encode(registry, encoding, json);
+    if (decode->parsed()) cli::decode(registry, name, words, json);
+  }
+
+  CLI::App app{"Messages of the 1xEV-DO air interface: lists, describes, builds and takes them apart.", "vorlan"};
+  CLI::App* classes = app.add_subcommand("classes", "List the classes that scripts can create");
+  CLI::App* describe = app.add_subcommand("describe", "Show a class: fields, properties, methods, errors");
+  CLI::App* encode = app.add_subcommand("encode", "Build a message and show its octets and fields");
+  CLI::App* decode = app.add_subcommand("decode", "Take a received message apart");
+  bool json = false;
+  std::string name;
+  std::vector<std::string> words;
+  cli::EncodeOptions encoding;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+  CommandLine line;
+  try {
+    line.app.parse(argc, argv);
+    line.run();
+    return 0;
+  } catch (const CLI::ParseError& error) {
+    return line.app.exit(error) == 0 ? 0 : kWrongUsage;
+  } catch (const cli::UsageError& error) {
+    std::fprintf(stderr, "vorlan: %s\nRun with --help for more information.\n", error.what());
+    return kWrongUsage;
+  } catch (const Error& error) {
+    report(error, line.json);
+    return kAutomationError;
+  }
+} catch (const std::exception& error) {
+  std::fprintf(stderr, "vorlan: %s\n", error.what());
+  return kAutomationError;
+}

@@ -1,0 +1,146 @@
+"""Runs the command line and looks at its exit code, what it prints, and where."""
+
+import json
+import os
+import subprocess
+
+import pytest
+
+PARAMETER_FILE = os.environ["PARAMETER_FILE"]
+ASSIGN = "encode SB_Ses_MsgUATIAssignment --config PARAMETER_FILE "
+CLOSE = "encode SB_Ses_MsgSessionClose "
+NAK = "encode SB_App_MsgNak "
+
+
+def vorlan(words):
+    words = [PARAMETER_FILE if word == "PARAMETER_FILE" else word for word in words]
+    # No environment: neither locale nor settings of the user's may matter.
+    return subprocess.run([os.environ["VORLAN"], *words], capture_output=True, text=True, timeout=60, env={})
+
+
+# Command, then what standard output must contain; blanks are squeezed.
+SUCCEEDS = [
+    ("--help", ["decode", "Exit codes"]),
+    ("classes *uati*request", ["SB_Ses_MsgUATIRequest The access terminal asks for a UATI."]),
+    ("classes closE", ["SB_Ses_MsgSessionClose"]),
+    ("classes ParameterFunctions", ["ReadINI.ParameterFunctions"]),
+    ("describe vorlan.sb_ses_msgsessionclose", [
+        "Vorlan.SB_Ses_MsgSessionClose (C.S0024 clause 5.2.6.2.1)",
+        "MoreInfo 8 x MoreInfoLen set if MoreInfoLen > 0",
+        "PRstr_CloseReason As String get let",
+        "CreateMessage(ByRef MessageObject As Object) As Boolean",
+        'PRstr_MoreInfo: let of another width "Length of MoreInfo field should be MoreInfo * 8 bits."']),
+    # The rule for values: bits of the right width, bits by prefix, numbers widened, two's complement.
+    (CLOSE + "CloseReason=00000011 MoreInfoLen=0", ["01 03 00", "protocol configuration failure"]),
+    (CLOSE + "CloseReason=0b0000_0101 MoreInfoLen=0", ["01 05 00"]),
+    (CLOSE + "CloseReason=101 MoreInfoLen=0", ["01 65 00"]),
+    (CLOSE + "CloseReason=-1 MoreInfoLen=0x0000", ["01 FF 00"]),
+    # A count is set before what it counts, wherever it stands.
+    (CLOSE + "prstr_moreinfo=0x1002 closereason=3 MoreInfoLen=2", ["01 03 02 10 02", "25 0001 0000 0000 0010"]),
+    (NAK + "WindowLen[1]=7 FirstErased(0)=0x3FFFFF NakRequests=2",
+     ["02 02 3F FF FF 00 00 00 00 00 00 07", "[1] 57 Reserved 57"]),
+    (NAK + "FirstErased[0]=1 PRint_NakType=1", ["02 00 00 01 00 00 04 00 00", "RLPFlow"]),
+    ("encode SB_Ses_MsgSoftConfigurationComplete AfterTransactionId=0xABC", ["28 bits", "02 00 AB C0"]),
+    (ASSIGN, ["176 bits", "UATI104", "UpperOldUATILength 169 0010 2"]),
+    (ASSIGN + "SubnetIncluded=0 UATIColorCode=0xAB --sector=SECTOR_4", ["64 bits", "1010 1011"]),
+    ("decode SB_Ses_MsgUATIComplete 0x02 0x07", ["(past the end of the message)"]),
+    ("decode SB_Ses_MsgUATIRequest 07:01", ["not the MessageID of SB_Ses_MsgUATIRequest"]),
+    ("decode SB_App_MsgNak 02 00000100000400 00 NakType=1", ["FirstErased 33 00 0000 0000 0000 0000 0001 1"]),
+]
+
+# Command, exit code, what standard error must contain.
+FAILS = [
+    ("", 2, "subcommand"),
+    ("classes --nonsense", 2, "--nonsense"),
+    (CLOSE + "CloseReason", 2, "FIELD=VALUE"),
+    (CLOSE + "CloseReason=1 PRstr_closeReason=2", 2, "twice"),
+    ("decode SB_Ses_MsgUATIRequest", 2, "HEX"),
+    ("encode SB_Ses_MsgUATIAssignment", 2, "--config"),
+    ("describe SessionClose", 1, "error 429 in Vorlan: ActiveX component can't create object: SessionClose "
+                                 "(did you mean SB_Ses_MsgSessionClose?)"),
+    (CLOSE + "Colour=1", 1, "error 438 in SB_Ses_MsgSessionClose: "),
+    (CLOSE + "MessageID=1", 1, "error 438"),
+    ("encode SB_GeneralFunctions", 1, "error 438"),
+    ("encode SB_Ses_MsgUATIRequest", 1, "only received"),
+    ("decode SB_App_MsgNak 02 NakRequests=1", 1, "error 438"),
+    (CLOSE + "CloseReason=0b101", 1,
+     "error 1 in SB_Ses_MsgSessionClose.PRstr_CloseReason: Length of <CloseReason> field should be 8 bits."),
+    (CLOSE + "CloseReason=256", 1, '"256" does not fit into 8 bits'),
+    (CLOSE + "CloseReason=-129", 1, "error 6"),
+    (CLOSE + "CloseReason=99999999999999999999", 1, "error 6"),
+    (CLOSE + "CloseReason=0x", 1, "error 13"),
+    (CLOSE + "CloseReason=0b2", 1, "error 13"),
+    (CLOSE + "CloseReason=1\x01", 1, "error 13"),
+    (CLOSE + "CloseReason[0]=1", 1, "error 450"),
+    (NAK + "FirstErased[1]=1", 1, "Index for FirstErased exceeds NakRequests."),
+    (NAK + "FirstErased[-1]=1", 1, "Index for FirstErased exceeds NakRequests."),
+    (NAK + "FirstErased[x]=1", 1, "error 13"),
+    ("encode SB_Ses_MsgUATIAssignment --config /no/such/file", 1, "/no/such/file"),
+    (ASSIGN + "--sector SECTOR_9", 1, "error 1 in SB_GlobalParameters: Sector Name: SECTOR 9 is invalid"),
+    ("decode SB_Ses_MsgUATIRequest 0G", 1, "error 13"),
+    ("decode SB_Ses_MsgUATIRequest 0x0", 1, "odd number"),
+]
+
+
+def words_of(command):
+    return [word.replace("SECTOR_", "SECTOR ") for word in command.split()]
+
+
+@pytest.mark.parametrize("command, fragments", SUCCEEDS)
+def test_succeeds(command, fragments):
+    run = vorlan(words_of(command))
+    assert (run.returncode, run.stderr) == (0, "")
+    squeezed = " ".join(run.stdout.split())
+    for fragment in fragments:
+        assert fragment in squeezed
+
+
+@pytest.mark.parametrize("command, code, fragment", FAILS)
+def test_fails(command, code, fragment):
+    run = vorlan(words_of(command))
+    assert (run.returncode, run.stdout) == (code, "")
+    assert fragment in run.stderr
+
+
+def test_field_tree():
+    run = vorlan(["decode", "SB_Con_MsgRouteUpdate", "00 01 02 2A 10 12 34 56 78 9A BC DE F0 01"])
+    assert run.stdout == """\
+SB_Con_MsgRouteUpdate, 112 bits
+  00 01 02 2A 10 12 34 56 78 9A BC DE F0 01
+
+  Field                             Bit  Bits                           Value
+  MessageID                           1  0000 0000                      0x00
+  MessageSequence                     9  0000 0001                      1
+  ReferencePilotPN                   17  0 0000 0100                    256 chips
+  ReferencePilotStrength             26  01 0101                        -10.5 dB
+  ReferenceKeep                      32  0                              0
+  NumPilots                          33  0001                           1
+  [0]                                37
+    PilotPNPhase                     37  000 0000 1001 0001             145 chips (PN 2 + 17 chips)
+    ChannelIncluded                  52  1                              1
+    Channel                          53  0100 0101 0110 0111 1000 1001  SystemType 69, BandClass 12, ChannelNumber 1929
+    PilotStrength                    77  10 1010                        -21 dB
+    Keep                             83  1                              1
+  ATTotalPilotTransmissionIncluded   84  1                              1
+  ATTotalPilotTransmission           85  1100 1101                      -25.5 dBm
+  ReferencePilotChannelIncluded      93  1                              1
+  ReferencePilotChannel              94  110 1111 0000 0000 0001        454657  (cut off by the end of the message)
+"""
+
+
+def test_json():
+    listed = json.loads(vorlan(["classes", "--json"]).stdout)
+    assert {"name": "SB_Ses_MsgSessionClose", "summary": "Either side closes the session."} in listed
+
+    described = json.loads(vorlan(["describe", "SB_App_MsgNak", "--json"]).stdout)
+    erased = next(member for member in described["members"] if member["name"] == "PRstr_FirstErased")
+    assert erased["parameters"] == [{"name": "Index", "type": "Integer", "by_reference": False, "optional": False}]
+
+    built = json.loads(vorlan(words_of(NAK + "FirstErased[0]=1 --json")).stdout)
+    assert (built["length"], built["octets"]) == (56, "02 01 00 00 01 00 00")
+    assert built["fields"][2]["fields"][1] == {
+        "name": "FirstErased", "first": 19, "width": 22, "bits": "0" * 21 + "1", "value": "1"}
+
+    failed = vorlan(["decode", "SB_Nothing", "00", "--json"])
+    assert failed.returncode == 1
+    assert json.loads(failed.stderr)["error"]["number"] == 429
