@@ -1,0 +1,135 @@
+"""The library's objects from Python: properties, methods, arguments, errors."""
+
+import datetime
+
+import pytest
+import vorlan
+
+functions = vorlan.SB_GeneralFunctions()
+
+
+def test_a_message_goes_out_and_comes_back():
+    sent = vorlan.SB_Ses_MsgSessionClose()
+    assert sent.Initialize(TestSet=None) is None
+    sent.PRstr_CloseReason = "00000011"
+    sent.prstr_moreinfolen = "00000001"
+    sent.PRstr_MoreInfo = "11110000"
+    message = vorlan.CreateObject("VorlanSim.MessageObject")
+    assert sent.CreateMessage(message) is True
+    assert (message.Hex, message.Length, message.octet[3], message.Octet(3)) == ("01 03 01 F0", 32, 240, 240)
+    assert repr(sent).startswith("<vorlan.SB_Ses_MsgSessionClose object at ")
+
+    received = vorlan.CreateObject("sb_ses_msgsessionclose")
+    received.PRobj_MessageObject = message
+    assert received.PRstr_MoreInfo == received.prstr_MOREINFO == "11110000"
+    assert received.PRstr_MessageString == "00000001" "00000011" "00000001" "11110000"
+    lines = repr(received).splitlines()
+    assert lines[0] == "SB_Ses_MsgSessionClose received, 32 bits"
+    assert any("CloseReason" in line and "protocol configuration failure" in line for line in lines)
+
+
+def test_indexed_properties():
+    message = vorlan.MessageObject()
+    message.Octet[2] = 7
+    message.octet[0] = 1
+    assert [message.Octet[i] for i in range(3)] == [1, 0, 7]
+    request = vorlan.SB_Con_MsgRouteUpdateRequest()
+    request.PRstr_SectorCount = "00010"
+    request.PRstr_SectorPilotPN[1] = "010101010"
+    assert (request.PRstr_SectorPilotPN[0], request.PRstr_SectorPilotPN(1)) == ("000000000", "010101010")
+    reject = vorlan.SB_App_MsgReservationReject()
+    reject.PRstr_ReservationCount = "00000001"
+    reject.PRstr_Link = "1"  # The index may be left out.
+    assert reject.PRstr_Link() == reject.PRstr_Link[0] == "1"
+
+
+@pytest.mark.parametrize("value, becomes", [
+    (5, 5), (-40000, -40000), (2**40, 2.0**40), (1.25, 1.25), (True, True), ("text\0 äß \udcff", "text\0 äß \udcff"),
+    (None, None), (vorlan.Null, vorlan.Null), (vorlan.Empty, None), (functions, functions), (pytest, pytest),
+    ((1, ["a", None], []), [1, ["a", None], []]),
+    (datetime.datetime(2024, 2, 29, 23, 59, 59, 999000), datetime.datetime(2024, 2, 29, 23, 59, 59, 999000)),
+    (datetime.datetime(1, 1, 1, 6), datetime.datetime(1, 1, 1, 6)),
+    (datetime.date(1899, 12, 30), datetime.datetime(1899, 12, 30)),
+])
+def test_a_value_survives_the_way_in_and_out(value, becomes):
+    held = vorlan.ByRef(value)
+    try:
+        functions.DecToBin(held, 8)
+    except vorlan.AutomationError:
+        pass  # Not all of them are numbers; a raised error gives arguments back as well.
+    assert held.value == becomes and type(held.value) is type(becomes)
+
+
+@pytest.mark.parametrize("value, text", [
+    (32767, "32767000"), (1e15, "1E+15000"), (True, "True0000"), ("", ""), (vorlan.Empty, ""),
+    (datetime.datetime(2024, 2, 29, 1, 2, 3), "2024-02-29 01:02:0300000"),
+    (datetime.datetime(2024, 1, 1, tzinfo=datetime.timezone.utc).astimezone(), None),
+])
+def test_a_value_as_text(value, text):
+    if text is None:
+        text = value.strftime("%Y-%m-%d %H:%M:%S00000")
+    assert functions.AddPadding(value) == text
+
+
+def test_arguments_by_reference_and_by_name():
+    value, width = vorlan.ByRef(-5), vorlan.ByRef(8)
+    assert functions.LongToBin(value, width) == functions.LongToBin(Width=8, VALUE=-5)
+    assert (value.value, width.value) == (-5, 7)
+    assert repr(width) == "vorlan.ByRef(7)" and vorlan.ByRef().value is vorlan.Empty
+
+
+request = vorlan.SB_Ses_MsgUATIRequest()
+close = vorlan.SB_Ses_MsgSessionClose()
+endless = []
+endless.append(endless)
+
+
+@pytest.mark.parametrize("call, number, source, description", [
+    (lambda: setattr(close, "PRstr_CloseReason", "1"), 1, "SB_Ses_MsgSessionClose.PRstr_CloseReason",
+     "Length of <CloseReason> field should be 8 bits."),
+    (lambda: request.PRstr_TransactionId, 1, "SB_Ses_MsgUATIRequest.PRstr_TransactionId",
+     "UATIRequest Message object set to nothing. Please set <PRobj_MessageObject> property first."),
+    (lambda: vorlan.CreateObject("Vorlan.SB_Nothing"), 429, "Vorlan", "ActiveX component can't create object: "
+     "Vorlan.SB_Nothing"),
+    (lambda: vorlan.CreateObject("Other.SB_Sector"), 429, "Vorlan", None),
+    (lambda: close.Initialize(), 450, "SB_Ses_MsgSessionClose.Initialize", None),
+    (lambda: close.Initialize(None, Testset=None), 450, "SB_Ses_MsgSessionClose.Initialize", None),
+    (lambda: close.Initialize(None, Encoder=""), 448, "SB_Ses_MsgSessionClose.Initialize",
+     "Named argument not found: Encoder"),
+    (lambda: close.CreateMessage(5), 13, "SB_Ses_MsgSessionClose.CreateMessage", "Type mismatch"),
+    (lambda: setattr(close, "PRstr_MessageID", "1"), 438, "SB_Ses_MsgSessionClose.PRstr_MessageID", None),
+    (lambda: close.PRobj_MessageObject, 438, "SB_Ses_MsgSessionClose.PRobj_MessageObject", None),
+    (lambda: close.PRstr_MoreInf, 438, "SB_Ses_MsgSessionClose", None),
+    (lambda: setattr(close, "Füllung", 1), 438, "SB_Ses_MsgSessionClose", None),
+    (lambda: delattr(close, "PRstr_MoreInfo"), 438, "SB_Ses_MsgSessionClose", None),
+    (lambda: functions.AddPadding(10**400), 6, "", None),
+    (lambda: functions.AddPadding(vorlan.Null), 94, "SB_GeneralFunctions.AddPadding", "Invalid use of Null"),
+    (lambda: vorlan.MessageObject().Octet[-1], 9, "MessageObject.Octet", "Subscript out of range"),
+    (lambda: vorlan.MessageObject().Octet[1, 2], 450, "MessageObject.Octet", None),
+])
+def test_errors(call, number, source, description):
+    with pytest.raises(vorlan.AutomationError) as raised:
+        call()
+    error = raised.value
+    assert (error.number, error.source, error.help_file) == (number, source, "")
+    assert error.description == description or description is None
+    assert isinstance(error, AttributeError) == (number == 438)
+    assert error.description in str(error)
+
+
+@pytest.mark.parametrize("call, exception", [
+    (lambda: vorlan.Object(), TypeError), (lambda: vorlan.SB_Ses_MsgSessionClose(1), TypeError),
+    (lambda: vorlan.SB_Nothing, AttributeError), (lambda: type(close).Initialize(request, None), TypeError),
+    (lambda: iter(vorlan.MessageObject().Octet), TypeError), (lambda: functions.AddPadding("\ud800"), UnicodeError),
+    (lambda: functions.AddPadding(endless), RecursionError),
+])
+def test_misuse_that_python_knows(call, exception):
+    with pytest.raises(exception):
+        call()
+
+
+def test_questions_are_answered_without_an_error():
+    assert not hasattr(close, "PRstr_Nothing") and getattr(close, "__len__", None) is None
+    assert type(close) is vorlan.SB_Ses_MsgSessionClose is vorlan.sb_ses_msgsessionclose
+    type(close).Initialize(close, None)
+    assert isinstance(close, vorlan.Object)
