@@ -1,0 +1,150 @@
+// Encoding and decoding against the hand-written yardstick of the same message in the same run.
+#include <benchmark/benchmark.h>
+
+#include "messages/connection/route_update.hpp"
+#include "messages/connection/sector_parameters.hpp"
+#include "messages/session/address_management.hpp"
+#include "platform/platform.hpp"
+#include "server/classes.hpp"
+#include "simulator/message_object.hpp"
+#include "support/fake_sector.hpp"
+#include "yardstick.hpp"
+
+namespace vorlan {
+namespace {
+
+const std::string kUATI104 = std::string(40, '1') + std::string(64, '0');
+const Value kColour[] = {"00010001"};
+
+/// A sector whose configuration was loaded from the example file.
+Ref<Object> sector() {
+  static Platform platform = native_platform();
+  const auto parameters = Registry(class_tables()).create("SB_GlobalParameters", platform);
+  parameters->let("PRstr_FileName", VORLAN_EXAMPLE_FILE);
+  parameters->call("Initialize", "SECTOR 0");
+  return make<test::PropertyBag>(std::map<std::string, Value, test::PropertyBag::Less>{
+      {"PRobj_GlobalParameters", parameters}, {"PRstr_SectorName", "SECTOR 0"}});
+}
+
+void YardstickPack(benchmark::State& state) {
+  yardstick::UATIAssignment message{"00000111", "01101000", kUATI104, "00010001", "101010111100110111101111", "0010"};
+  std::uint8_t octets[22];
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(message);
+    yardstick::pack(message, octets);
+    benchmark::DoNotOptimize(octets);
+  }
+}
+BENCHMARK(YardstickPack);
+
+void CreateUATIAssignment(benchmark::State& state) {
+  SB_Ses_MsgUATIAssignment message;
+  message.initialize(sector(), {}, "");
+  message.let<"PRstr_MessageSequence">("00000111");
+  const auto object = make<simulator::MessageObject>();
+  const Ref<Object> target(object);
+  for (auto _ : state) {
+    message.create_message(target, kColour);
+    benchmark::DoNotOptimize(object->octets().data());
+  }
+}
+BENCHMARK(CreateUATIAssignment);
+
+/// The same without a colour code from the script: it is read afresh from the parameter file, as the class promises.
+void CreateUATIAssignmentWithLiveColourCode(benchmark::State& state) {
+  SB_Ses_MsgUATIAssignment message;
+  message.initialize(sector(), {}, "");
+  const Ref<Object> target(make<simulator::MessageObject>());
+  for (auto _ : state) message.create_message(target);
+}
+BENCHMARK(CreateUATIAssignmentWithLiveColourCode);
+
+void WholeLifeOfUATIAssignment(benchmark::State& state) {
+  const Ref<Object> owner = sector();
+  const auto object = make<simulator::MessageObject>();
+  const Ref<Object> target(object);
+  for (auto _ : state) {
+    const auto message = make<SB_Ses_MsgUATIAssignment>();
+    message->initialize(owner, {}, "");
+    message->let<"PRstr_MessageSequence">("00000111");
+    message->let<"PRstr_SubnetIncluded">("1");
+    message->let<"PRstr_UpperOldUATILength">("0010");
+    message->create_message(target, kColour);
+    benchmark::DoNotOptimize(object->octets().data());
+  }
+}
+BENCHMARK(WholeLifeOfUATIAssignment);
+
+void YardstickParse(benchmark::State& state) {
+  std::uint8_t octets[22] = {1, 7, 1, 0x68};
+  char text[176];
+  std::string_view fields[4];
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(octets);
+    yardstick::unpack(octets, sizeof octets, text);
+    const std::string_view bits(text, sizeof text);
+    fields[0] = bits.substr(8, 8);
+    fields[1] = bits.substr(16, 4);
+    fields[2] = bits.substr(20, 4);
+    fields[3] = bits.substr(24, 152);
+    benchmark::DoNotOptimize(text);
+    benchmark::DoNotOptimize(fields);
+  }
+}
+BENCHMARK(YardstickParse);
+
+/// 22 octets: UATIComplete with 15 octets of old UATI and padding behind it, four fields read.
+void DecodeUATIComplete(benchmark::State& state) {
+  const auto object = make<simulator::MessageObject>();
+  object->set_hex("02 05 0F 01 02 03 04 05 06 07 08 09 0A 0B 0C 0D 0E 0F 00 00 00 00");
+  const Ref<Object> source(object);
+  SB_Ses_MsgUATIComplete message;
+  for (auto _ : state) {
+    message.receive(source);
+    benchmark::DoNotOptimize(message.get<"PRstr_MessageSequence">());
+    benchmark::DoNotOptimize(message.get<"PRstr_Reserved">());
+    benchmark::DoNotOptimize(message.get<"PRstr_UpperOldUATILength">());
+    benchmark::DoNotOptimize(message.get<"PRstr_UpperOldUATI">());
+  }
+}
+BENCHMARK(DecodeUATIComplete);
+
+void ReadAllOfRouteUpdate(benchmark::State& state) {
+  const auto pilots = static_cast<std::size_t>(state.range(0));
+  std::string bits(36, '0');
+  for (std::size_t bit = 0; bit < 4; ++bit) bits[35 - bit] = (pilots >> bit & 1U) != 0 ? '1' : '0';
+  for (std::size_t i = 0; i < pilots; ++i) bits += std::string(15, '0') + "1" + std::string(24, '0') + "0011101";
+  SB_Con_MsgRouteUpdate message;
+  for (auto _ : state) {
+    message.receive(bits);
+    for (std::size_t i = 0; i < pilots; ++i) {
+      benchmark::DoNotOptimize(message.get<"PRstr_PilotPNPhase">(i));
+      benchmark::DoNotOptimize(message.get<"PRstr_ChannelIncluded">(i));
+      benchmark::DoNotOptimize(message.get<"PRstr_Channel">(i));
+      benchmark::DoNotOptimize(message.get<"PRstr_PilotStrength">(i));
+      benchmark::DoNotOptimize(message.get<"PRstr_Keep">(i));
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(ReadAllOfRouteUpdate)->Arg(1)->Arg(5)->Arg(15);
+
+void CreateSectorParameters(benchmark::State& state) {
+  SB_Con_MsgSectorParameters message;
+  message.initialize(test::fake_sector(test::fake_configuration()), {}, "");
+  if (state.range(0) != 0) {
+    message.let<"PRstr_NeighborCount">("11111");
+    message.let<"PRstr_ChannelCount">("11111");
+    for (std::size_t i = 0; i < 31; ++i) message.let<"PRstr_NeighborChannelIncluded">(i, "1");
+  }
+  const auto object = make<simulator::MessageObject>();
+  const Ref<Object> target(object);
+  for (auto _ : state) {
+    message.create_message(target);
+    benchmark::DoNotOptimize(object->octets().data());
+  }
+}
+BENCHMARK(CreateSectorParameters)->ArgName("full")->Arg(0)->Arg(1);
+
+}  // namespace
+}  // namespace vorlan
