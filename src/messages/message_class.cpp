@@ -119,6 +119,9 @@ std::vector<MemberInfo> MessageClass::list_members() {
   const auto add = [&](Action action, std::size_t field, MemberInfo member) {
     members.push_back(std::move(member));
     members_.push_back({action, static_cast<std::uint16_t>(field)});
+    if (action != Action::Field || spec_->direction == Direction::Parsed) return;
+    const FieldSpec& row = *fields_[field].spec;
+    if (!row.integer && row.view == nullptr && !is_repeated(row)) members_.back().stored_text = fields_[field].slot;
   };
   const MessageSpec& spec = *spec_;
   if (spec.parses()) {

@@ -54,6 +54,8 @@ class MessageClass {
   struct Member {
     Action action;
     std::uint16_t field;
+    /// Where the text of a single field stands that a class which builds has stored as it was set; kNone for others.
+    std::int16_t stored_text = kNone;
   };
 
   [[nodiscard]] const MessageSpec& spec() const noexcept { return *spec_; }

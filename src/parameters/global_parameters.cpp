@@ -192,9 +192,12 @@ bool SB_GlobalParameters::GetParamBooleanValue(const std::string& section, const
 }
 
 Ref<Object> SB_GlobalParameters::ini_reader() {
-  if (!ini_reader_ && platform_->create_foreign_object) ini_reader_ = platform_->create_foreign_object(kReaderName);
-  if (!ini_reader_) ini_reader_ = make<ParameterFunctions>(*platform_);
-  return ini_reader_;
+  if (ini_reader_) return ini_reader_;
+  Ref<Object> reader;
+  if (platform_->create_foreign_object) reader = platform_->create_foreign_object(kReaderName);
+  if (!reader) reader = make<ParameterFunctions>(*platform_);
+  ini_reader_ = reader;
+  return reader;
 }
 
 std::int16_t SB_GlobalParameters::personality_count() const {

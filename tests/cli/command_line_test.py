@@ -25,7 +25,7 @@ SUCCEEDS = [
     ("classes closE", ["SB_Ses_MsgSessionClose"]),
     ("classes ParameterFunctions", ["ReadINI.ParameterFunctions"]),
     ("describe vorlan.sb_ses_msgsessionclose", [
-        "Vorlan.SB_Ses_MsgSessionClose (C.S0024 clause 5.2.6.2.1)",
+        "Vorlan.SB_Ses_MsgSessionClose (C.S0024 clause 7.2.6.2.1)",
         "MoreInfo 8 x MoreInfoLen set if MoreInfoLen > 0",
         "PRstr_CloseReason As String get let",
         "CreateMessage(ByRef MessageObject As Object) As Boolean",
