@@ -37,8 +37,8 @@ inline void unpack(const std::uint8_t* octets, std::size_t count, char* text) no
   const __m128i select = _mm_set1_epi64x(static_cast<long long>(0x0102040810204080ULL));
   const __m128i zero = _mm_set1_epi8('0');
   for (; count >= 2; count -= 2, octets += 2, text += 16) {
-    const __m128i spread = _mm_unpacklo_epi64(_mm_set1_epi8(static_cast<char>(octets[0])),
-                                              _mm_set1_epi8(static_cast<char>(octets[1])));
+    const __m128i spread =
+        _mm_unpacklo_epi64(_mm_set1_epi8(static_cast<char>(octets[0])), _mm_set1_epi8(static_cast<char>(octets[1])));
     const __m128i set = _mm_cmpeq_epi8(_mm_and_si128(spread, select), select);
     _mm_storeu_si128(reinterpret_cast<__m128i*>(text), _mm_sub_epi8(zero, set));
   }

@@ -11,6 +11,7 @@
 #include "cli/sector.hpp"
 #include "common/bits.hpp"
 #include "messages/field_tree.hpp"
+#include "messages/identification.hpp"
 #include "messages/message.hpp"
 #include "nlohmann/json.hpp"
 #include "simulator/message_object.hpp"
@@ -166,28 +167,66 @@ void encode(const Registry& registry, const EncodeOptions& options, bool json) {
                 json);
 }
 
-void decode(const Registry& registry, const std::string& class_name, const std::vector<std::string>& words, bool json) {
-  const Registry::Class& named = class_named(registry, class_name);
+namespace {
+
+/// The one class whose message begins with these octets; an error that names them all if there are several.
+const Registry::Class& class_of(const Registry& registry, const std::string& where,
+                                const std::vector<std::uint8_t>& octets) {
+  std::string bits(octets.size() * 8, '0');
+  unpack_bits(octets.data(), bits.size(), bits.data());
+  const auto found = identify(registry, where, bits);
+  if (found.size() == 1) return registry.at(found.front()->info().name());
+  std::string names;
+  for (const MessageClass* message : found) {
+    names.append(names.empty() ? "" : ", ").append(message->info().name());
+  }
+  const std::string id = octets_text(std::span(octets).first(1));
+  throw Error(ErrorNumber::InvalidCall, "decode",
+              found.empty() ? "no message of " + where + " begins with " + id
+                            : id + " begins several messages of " + where + ": " + names);
+}
+
+}  // namespace
+
+void decode(const Registry& registry, const std::string& where, const std::vector<std::string>& words, bool json) {
+  std::vector<std::string> digits;
+  std::vector<Assignment> assignments;
+  for (const std::string& word : std::span(words).subspan(where.empty() ? 1 : 0)) {
+    if (word.find('=') == std::string::npos) {
+      digits.push_back(word);
+    } else {
+      assignments.push_back(parse_assignment(word));
+    }
+  }
+  if (digits.empty()) throw UsageError("no octets given");
+  const std::vector<std::uint8_t> octets = parse_octets(digits);
+  if (octets.empty()) throw UsageError("no octets given");
+
+  const Registry::Class& named =
+      where.empty() ? class_named(registry, words.front()) : class_of(registry, where, octets);
   Platform platform = native_platform();
   const Ref<Object> object = named.entry->create(platform);
   Message& message = message_behind(object, named.name(), "PRobj_MessageObject");
-  std::vector<std::string> digits;
-  for (const std::string& word : words) {
-    if (word.find('=') == std::string::npos) {
-      digits.push_back(word);
-      continue;
-    }
-    const Target target = resolve(message.message_class(), parse_assignment(word));
+  for (Assignment& assignment : assignments) {
+    const Target target = resolve(message.message_class(), std::move(assignment));
     const auto fields = message.message_class().fields();
     if (target.row == fields.size() || !fields[target.row].spec->integer) {
       throw Error(ErrorNumber::MemberNotFound, named.name(), target.assignment.name + " (it selects no layout)");
     }
     assign(message, target);
   }
-  if (digits.empty()) throw UsageError("no octets given");
-  const std::vector<std::uint8_t> octets = parse_octets(digits);
-  if (octets.empty()) throw UsageError("no octets given");
   print_message(message.message_class(), octets, octets.size() * 8, layout_controls(message), json);
+}
+
+std::string protocol_list() {
+  std::string text = "Protocols, by layer:";
+  std::string_view layer;
+  for (const ProtocolInfo& info : protocols()) {
+    text.append(info.layer == layer ? ", " : "\n  " + std::string(info.layer) + ": ").append(info.name);
+    if (info.type >= 0) text.append(" (").append(std::to_string(info.type)).append(")");
+    layer = info.layer;
+  }
+  return text;
 }
 
 }  // namespace vorlan::cli

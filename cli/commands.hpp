@@ -26,7 +26,10 @@ struct EncodeOptions {
 void list_classes(const Registry& registry, const std::string& pattern, bool json);
 void describe_class(const Registry& registry, const std::string& name, bool json);
 void encode(const Registry& registry, const EncodeOptions& options, bool json);
-/// `words` are octets as hexadecimal text, and assignments to properties that select a layout.
-void decode(const Registry& registry, const std::string& class_name, const std::vector<std::string>& words, bool json);
+/// `words` are the class's name, octets as hexadecimal text, and assignments to properties that select a layout. The
+/// name is left out where `where`, a protocol or layer, is given: the MessageID finds the class then.
+void decode(const Registry& registry, const std::string& where, const std::vector<std::string>& words, bool json);
+/// The protocols and layers that decode knows, for --help.
+std::string protocol_list();
 
 }  // namespace vorlan::cli

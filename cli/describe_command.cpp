@@ -82,12 +82,18 @@ ordered_json class_json(const Registry::Class& named) {
   return json;
 }
 
+/// Long zeros would push everything behind them off the screen.
+std::string initial_text(const std::string& bits) {
+  constexpr std::size_t kReadable = 8;
+  return bits.size() > kReadable && bits.find('1') == std::string::npos ? "all 0" : bits;
+}
+
 void print_fields(const ClassInfo& info) {
   if (info.fields().empty()) return;
-  Table table({"Field", "Bits", "Initially", "Comes from", "Present", "Unit or codes"});
+  Table table({"Field", "Bits", "Present", "Initially", "Unit or codes", "Comes from"});
   for (const FieldInfo& field : info.fields()) {
-    table.add(
-        {std::string(bare_name(field.name)), field.width, field.initial, field.origin, field.condition, field.unit});
+    table.add({std::string(bare_name(field.name)), field.width, field.condition, initial_text(field.initial),
+               field.unit, field.origin});
   }
   std::printf("\nFields, in air-interface order\n%s", table.text("  ").c_str());
 }

@@ -55,12 +55,16 @@ struct CommandLine {
         "A field's name may go without its PRstr_. Counts are set before their lists, however they are typed.\n\n" +
         std::string(cli::kValueRule));
 
-    decode->add_option("CLASS", name, "the message class")->required();
     decode
-        ->add_option("HEX", words,
-                     "octets in hexadecimal, in one or several words; and PROPERTY=VALUE for a property that selects "
-                     "a layout, such as PRint_NakType=1")
+        ->add_option("CLASS HEX", words,
+                     "the message class (not with --protocol); octets in hexadecimal, in one or several words; and "
+                     "PROPERTY=VALUE for a property that selects a layout, such as PRint_NakType=1")
         ->required();
+    decode
+        ->add_option("--protocol,--layer", where,
+                     "find the class by MessageID: a protocol's name or type number, or a layer")
+        ->type_name("NAME");
+    decode->footer(cli::protocol_list());
     for (CLI::App* command : {classes, describe, encode, decode}) command->add_flag("--json", json, "print JSON");
   }
 
@@ -69,7 +73,7 @@ struct CommandLine {
     if (classes->parsed()) cli::list_classes(registry, name, json);
     if (describe->parsed()) cli::describe_class(registry, name, json);
     if (encode->parsed()) cli::encode(registry, encoding, json);
-    if (decode->parsed()) cli::decode(registry, name, words, json);
+    if (decode->parsed()) cli::decode(registry, where, words, json);
   }
 
   CLI::App app{"Messages of the 1xEV-DO air interface: lists, describes, builds and takes them apart.", "vorlan"};
@@ -79,6 +83,7 @@ struct CommandLine {
   CLI::App* decode = app.add_subcommand("decode", "Take a received message apart");
   bool json = false;
   std::string name;
+  std::string where;
   std::vector<std::string> words;
   cli::EncodeOptions encoding;
 };

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "automation/member_key.hpp"
 #include "automation/object.hpp"
 
 namespace vorlan {
@@ -71,14 +72,18 @@ class ClassInfo {
   [[nodiscard]] std::span<const ErrorInfo> errors() const noexcept { return errors_; }
 
   /// The index of a member, found without regard to case; -1 if there is none.
-  [[nodiscard]] int find(std::string_view member) const noexcept;
+  [[nodiscard]] int find(std::string_view member) const noexcept {
+    const MemberKey key(member);
+    const int exact = find(by_name_, key, [&](std::string_view name) { return name == member; });
+    return exact >= 0 ? exact : find_in_any_case(key, member);
+  }
 
   /// What a call must know of a member, kept small and together: every late-bound call looks here.
   struct Dispatch {
     std::string_view name;
     std::uint8_t allowed = 0;  ///< a bit per Access
-    std::uint8_t required = 0;
-    std::uint8_t parameters = 0;
+    std::uint8_t fewest = 0;   ///< index arguments, or arguments of a method
+    std::uint8_t most = 0;
   };
   [[nodiscard]] const Dispatch& dispatch(int member) const noexcept {
     return dispatch_[static_cast<std::size_t>(member)];
@@ -89,8 +94,29 @@ class ClassInfo {
   std::vector<MemberInfo> members_;
   std::vector<FieldInfo> fields_;
   std::vector<ErrorInfo> errors_;
-  std::vector<Dispatch> dispatch_;   // in the order of members_
-  std::vector<std::int16_t> slots_;  // open addressing; a power of two of them, -1 where free
+  std::vector<Dispatch> dispatch_;  // in the order of members_
+  struct Slot {
+    MemberKey key;
+    int member = -1;
+  };
+  /// Open addressing; a power of two of slots.
+  using Index = std::vector<Slot>;
+  void enter(Index& index, const MemberKey& key, int member);
+  [[nodiscard]] int find_in_any_case(const MemberKey& key, std::string_view member) const noexcept;
+  template <class SameName>
+  [[nodiscard]] int find(const Index& index, const MemberKey& key, SameName&& same_name) const noexcept {
+    const std::size_t mask = index.size() - 1;
+    for (std::size_t i = key.hash();; ++i) {
+      const Slot& slot = index[i & mask];
+      if (slot.member < 0) return slot.member;
+      if (slot.key == key && (key.size <= MemberKey::kWholeNames || same_name(dispatch(slot.member).name))) {
+        return slot.member;
+      }
+    }
+  }
+
+  Index by_name_;           // spelt as the class spells it, as most clients do
+  Index by_small_letters_;  // in any other case
 };
 
 /// An object whose class is in the registry: finds the member, checks access and number of arguments, names the

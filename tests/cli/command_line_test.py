@@ -26,7 +26,7 @@ SUCCEEDS = [
     ("classes ParameterFunctions", ["ReadINI.ParameterFunctions"]),
     ("describe vorlan.sb_ses_msgsessionclose", [
         "Vorlan.SB_Ses_MsgSessionClose (C.S0024 clause 7.2.6.2.1)",
-        "MoreInfo 8 x MoreInfoLen set if MoreInfoLen > 0",
+        "MoreInfo 8 x MoreInfoLen if MoreInfoLen > 0 set",
         "PRstr_CloseReason As String get let",
         "CreateMessage(ByRef MessageObject As Object) As Boolean",
         'PRstr_MoreInfo: let of another width "Length of MoreInfo field should be MoreInfo * 8 bits."']),
@@ -54,7 +54,7 @@ FAILS = [
     ("classes --nonsense", 2, "--nonsense"),
     (CLOSE + "CloseReason", 2, "FIELD=VALUE"),
     (CLOSE + "CloseReason=1 PRstr_closeReason=2", 2, "twice"),
-    ("decode SB_Ses_MsgUATIRequest", 2, "HEX"),
+    ("decode SB_Ses_MsgUATIRequest", 2, "no octets given"),
     ("encode SB_Ses_MsgUATIAssignment", 2, "--config"),
     ("describe SessionClose", 1, "error 429 in Vorlan: ActiveX component can't create object: SessionClose "
                                  "(did you mean SB_Ses_MsgSessionClose?)"),
