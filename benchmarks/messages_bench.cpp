@@ -1,8 +1,14 @@
 // Encoding and decoding against the hand-written yardstick of the same message in the same run.
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+
 #include "messages/connection/route_update.hpp"
 #include "messages/connection/sector_parameters.hpp"
+#include "messages/identification.hpp"
+#include "messages/mac/reverse_traffic_channel.hpp"
 #include "messages/session/address_management.hpp"
 #include "platform/platform.hpp"
 #include "server/classes.hpp"
@@ -109,6 +115,45 @@ void DecodeUATIComplete(benchmark::State& state) {
 }
 BENCHMARK(DecodeUATIComplete);
 
+/// 63 limits: 268 bits, padded to 272.
+void YardstickPackRateLimits(benchmark::State& state) {
+  std::vector<std::string> limits(63, "0101");
+  std::uint8_t octets[34];
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(limits.data());
+    char text[272];
+    char* out = text;
+    const auto put = [&out](std::string_view bits) {
+      std::memcpy(out, bits.data(), bits.size());
+      out += bits.size();
+    };
+    put("00000001");
+    put("111111");
+    for (const std::string& limit : limits) {
+      std::memcpy(out, limit.data(), 4);
+      out += 4;
+    }
+    put("000000");
+    yardstick::pack(text, sizeof text, octets);
+    benchmark::DoNotOptimize(octets);
+  }
+}
+BENCHMARK(YardstickPackRateLimits);
+
+void CreateBroadcastRevRateLimit(benchmark::State& state) {
+  SB_Mac_MsgBroadcastRevRateLimit message;
+  message.initialize();
+  message.let<"PRstr_RPCCount">("111111");
+  for (std::size_t i = 0; i < 63; ++i) message.let<"PRstr_RateLimit">(i, "0101");
+  const auto object = make<simulator::MessageObject>();
+  const Ref<Object> target(object);
+  for (auto _ : state) {
+    message.create_message(target);
+    benchmark::DoNotOptimize(object->octets().data());
+  }
+}
+BENCHMARK(CreateBroadcastRevRateLimit);
+
 void ReadAllOfRouteUpdate(benchmark::State& state) {
   const auto pilots = static_cast<std::size_t>(state.range(0));
   std::string bits(36, '0');
@@ -145,6 +190,39 @@ void CreateSectorParameters(benchmark::State& state) {
   }
 }
 BENCHMARK(CreateSectorParameters)->ArgName("full")->Arg(0)->Arg(1);
+
+/// Every class that builds, with its defaults: the label names the two slowest.
+void EncodeEveryMessage(benchmark::State& state) {
+  struct Timed {
+    std::string_view name;
+    double nanoseconds;
+  };
+  const auto configuration = test::fake_sector(test::fake_configuration());
+  const Registry registry(class_tables());
+  std::vector<Timed> times;
+  for (auto _ : state) {
+    times.clear();
+    for (const MessageClass* cls : message_classes(registry)) {
+      if (!cls->spec().builds()) continue;
+      Platform nothing;
+      const Ref<Object> object = registry.create(cls->spec().name, nothing);
+      auto& message = dynamic_cast<Message&>(*object);
+      message.initialize(configuration, {}, "");
+      constexpr int kRounds = 200;
+      const auto start = std::chrono::steady_clock::now();
+      for (int i = 0; i < kRounds; ++i) benchmark::DoNotOptimize(message.encode());
+      const std::chrono::duration<double, std::nano> took = std::chrono::steady_clock::now() - start;
+      times.push_back({cls->spec().name, took.count() / kRounds});
+    }
+  }
+  std::sort(times.begin(), times.end(), [](const Timed& a, const Timed& b) { return a.nanoseconds > b.nanoseconds; });
+  std::string label;
+  for (const Timed& timed : std::span(times).first(2)) {
+    label += std::string(timed.name) + " " + std::to_string(static_cast<int>(timed.nanoseconds)) + " ns ";
+  }
+  state.SetLabel(label);
+}
+BENCHMARK(EncodeEveryMessage);
 
 }  // namespace
 }  // namespace vorlan

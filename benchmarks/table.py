@@ -18,6 +18,8 @@ RATIOS = [
     ("CreateMessage of an initialised UATIAssignment", "CreateUATIAssignment", "YardstickPack", 12),
     ("UATIAssignment: create, Initialize, set, CreateMessage, destroy", "WholeLifeOfUATIAssignment", "YardstickPack", 40),
     ("decode 22 octets, read four fields", "DecodeUATIComplete", "YardstickParse", 15),
+    ("CreateMessage of BroadcastRevRateLimit, 63 limits", "CreateBroadcastRevRateLimit", "YardstickPackRateLimits",
+     12),
     ("BinStringToMsg of 32,767 random bits", "BinStringToMsg", "BareLoopPack", 2),
     ("MsgToBinString of 32,767 random bits", "MsgToBinString", "BareLoopUnpack", 2),
     ("late-bound property read", "LateBoundProperty", "VirtualCall", 5),

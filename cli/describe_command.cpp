@@ -90,10 +90,10 @@ std::string initial_text(const std::string& bits) {
 
 void print_fields(const ClassInfo& info) {
   if (info.fields().empty()) return;
-  Table table({"Field", "Bits", "Present", "Initially", "Unit or codes", "Comes from"});
+  Table table({"Field", "Bits", "Initially", "Unit or codes", "Comes from", "Present"});
   for (const FieldInfo& field : info.fields()) {
-    table.add({std::string(bare_name(field.name)), field.width, field.condition, initial_text(field.initial),
-               field.unit, field.origin});
+    table.add({std::string(bare_name(field.name)), field.width, initial_text(field.initial), field.unit, field.origin,
+               field.condition});
   }
   std::printf("\nFields, in air-interface order\n%s", table.text("  ").c_str());
 }

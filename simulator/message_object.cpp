@@ -58,8 +58,8 @@ void MessageObject::write_octets(std::span<const std::uint8_t> octets) {
 std::string MessageObject::hex() const {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string text;
-  for (std::int16_t i = 0; i < (length_ + 7) / 8; ++i) {
-    const auto value = static_cast<std::size_t>(octet(i));
+  for (int i = 0; i < (length_ + 7) / 8; ++i) {
+    const auto value = static_cast<std::size_t>(octet(static_cast<std::int16_t>(i)));
     if (i > 0) text += ' ';
     text += kDigits[value >> 4U];
     text += kDigits[value & 0xFU];

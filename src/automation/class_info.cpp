@@ -76,21 +76,32 @@ int ClassInfo::find_in_any_case(const MemberKey& key, std::string_view member) c
               [&](std::string_view name) { return equals_ignoring_case(name, member); });
 }
 
+void ClassObject::refuse_call(int member, std::string_view name, Access access) const {
+  if (member < 0) throw Error(ErrorNumber::MemberNotFound, info_->name(), name);
+  if ((info_->dispatch(member).allowed & bit(access)) == 0) {
+    throw Error(ErrorNumber::MemberNotFound, source(member), "this access");
+  }
+  throw Error(ErrorNumber::WrongArgumentCount, source(member));
+}
+
+std::string ClassObject::source(int member) const {
+  return std::string(info_->name()).append(".").append(info_->dispatch(member).name);
+}
+
 Value ClassObject::invoke(std::string_view member, Access access, std::span<Value> arguments) {
   const int index = info_->find(member);
-  if (index < 0) throw Error(ErrorNumber::MemberNotFound, info_->name(), member);
+  if (index < 0) refuse_call(index, member, access);
   const ClassInfo::Dispatch& dispatch = info_->dispatch(index);
-  const auto source = [&] { return std::string(info_->name()) + "." + std::string(dispatch.name); };
-  if ((dispatch.allowed & bit(access)) == 0) throw Error(ErrorNumber::MemberNotFound, source(), "this access");
   const std::size_t value = access == Access::Let || access == Access::Set ? 1 : 0;
-  if (arguments.size() - dispatch.fewest - value > std::size_t{dispatch.most} - dispatch.fewest) {
-    throw Error(ErrorNumber::WrongArgumentCount, source());
+  if ((dispatch.allowed & bit(access)) == 0 ||
+      arguments.size() - dispatch.fewest - value > std::size_t{dispatch.most} - dispatch.fewest) {
+    refuse_call(index, member, access);
   }
   try {
     return invoke_member(index, access, arguments);
   } catch (Error& error) {
     // What a class raises on purpose may have an empty source on purpose.
-    if (!error.is(ErrorNumber::Failed)) error.set_source_if_empty(source());
+    if (!error.is(ErrorNumber::Failed)) error.set_source_if_empty(source(index));
     throw;
   }
 }

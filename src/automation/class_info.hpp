@@ -132,6 +132,9 @@ class ClassObject : public Object {
   virtual Value invoke_member(int member, Access access, std::span<Value> arguments) = 0;
 
  private:
+  [[noreturn]] void refuse_call(int member, std::string_view name, Access access) const;
+  [[nodiscard]] std::string source(int member) const;
+
   const ClassInfo* info_;
 };
 

@@ -29,13 +29,14 @@ bool Layout::tail_is_there(std::size_t field) noexcept {
   return tail_ == Tail::There;
 }
 
-void Layout::begin(const MessageClass::Group& group, std::size_t count) {
+bool Layout::begin(const MessageClass::Group& group, std::size_t count) {
   const auto first = static_cast<std::uint32_t>(extents_.size());
   const auto rows = static_cast<std::uint32_t>(group.end - group.first);
   for (std::uint32_t row = 0; row < rows; ++row) {
     places_[group.first + row] = {first + row, rows, static_cast<std::uint32_t>(count)};
   }
   extents_.resize(first + rows * count, Extent{.offset = static_cast<std::uint32_t>(bits_.size())});
+  return false;
 }
 
 void Layout::visit(std::size_t field, std::size_t index, std::size_t width) noexcept {

@@ -33,7 +33,11 @@ class Encoder {
   }
   [[nodiscard]] static std::size_t rest() noexcept { return 0; }
   [[nodiscard]] static bool done() noexcept { return false; }
-  void begin(const MessageClass::Group&, std::size_t) noexcept {}
+  bool begin(const MessageClass::Group& group, std::size_t count) {
+    if (!group.stored_list) return false;
+    for (const std::string& element : message_.stored_list(group.first, count)) bits_ += element;
+    return true;
+  }
   void skip(std::size_t, std::size_t) noexcept {}
 
   void visit(std::size_t field, std::size_t index, std::size_t) {
@@ -303,6 +307,11 @@ std::string_view Message::stored(std::size_t field, std::size_t index) const noe
   return index < lists_[slot].size() ? std::string_view(lists_[slot][index]) : std::string_view{};
 }
 
+std::span<const std::string> Message::stored_list(std::size_t field, std::size_t count) const noexcept {
+  const auto& list = lists_[static_cast<std::size_t>(class_.field(field).slot)];
+  return std::span(list).first(std::min(count, list.size()));
+}
+
 std::size_t Message::stored_count(std::size_t field) const noexcept {
   return is_repeated(*class_.field(field).spec) ? lists_[static_cast<std::size_t>(class_.field(field).slot)].size() : 1;
 }
@@ -344,6 +353,8 @@ std::string_view Message::get_field(std::size_t field) const {
     found = received_extent(row.same_as != MessageClass::kNone ? static_cast<std::size_t>(row.same_as) : field, 0);
     if (!found.present) {
       if (!spec.absent.empty()) raise(spec, Fault::Absent);
+      // A counted field that is not there was received empty.
+      if (spec.width.kind == WidthRule::Kind::OctetsCountedBy) return {};
       return unreceived(field, 0);
     }
     if (spec.get_to_end) found.width = static_cast<std::uint32_t>(message_string_.size());

@@ -59,6 +59,7 @@ class Message : public ClassObject {
   }
   /// The stored value, no check made, and the number of stored elements.
   [[nodiscard]] std::string_view stored(std::size_t field, std::size_t index = 0) const noexcept;
+  [[nodiscard]] std::span<const std::string> stored_list(std::size_t field, std::size_t count) const noexcept;
   [[nodiscard]] std::size_t stored_count(std::size_t field) const noexcept;
   void store(std::size_t field, std::string_view value);
 
@@ -76,6 +77,7 @@ class Message : public ClassObject {
   Value invoke_member(int member, Access access, std::span<Value> arguments) override;
 
  private:
+  Value invoke_action(const MessageClass::Member& action, Access access, std::span<Value> arguments);
   Value invoke_field(std::size_t field, Access access, std::span<Value> arguments);
   void check_letting(const FieldSpec& spec) const;
   void check_width(std::size_t field, std::size_t index, std::string_view value) const;

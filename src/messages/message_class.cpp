@@ -14,6 +14,12 @@ bool lets(const MessageSpec& message, const FieldSpec& field) {
          (is_stored(field) || (is_property(field) && !target.empty()));
 }
 
+bool is_stored_list(const FieldSpec& field) {
+  return is_repeated(field) && is_stored(field) && field.sent && field.view == nullptr &&
+         field.present.kind == PresenceRule::Kind::Always && field.present.also_one.empty() &&
+         !field.present.also_in_tail;
+}
+
 }  // namespace
 
 std::string source_of(const MessageSpec& message, std::string_view member) {
@@ -91,7 +97,8 @@ void MessageClass::resolve() {
     std::size_t end = i + 1;
     while (repeat.record != 0 && end < fields_.size() && fields_[end].spec->repeat.record == repeat.record) ++end;
     groups_.push_back({static_cast<std::uint16_t>(i), static_cast<std::uint16_t>(end), is_repeated(*fields_[i].spec),
-                       repeat.times, index_of(*spec_, repeat.count), index_of(*spec_, repeat.added_count)});
+                       end == i + 1 && is_stored_list(*fields_[i].spec), repeat.times, index_of(*spec_, repeat.count),
+                       index_of(*spec_, repeat.added_count)});
     i = end;
   }
 }

@@ -37,6 +37,7 @@ class MessageClass {
     std::uint16_t first;
     std::uint16_t end;
     bool repeated;
+    bool stored_list = false;  ///< one row, always there, its elements sent as they are stored
     std::uint8_t times = 0;
     std::int16_t count = kNone;
     std::int16_t added_count = kNone;

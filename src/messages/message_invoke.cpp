@@ -6,10 +6,14 @@ namespace vorlan {
 
 Value Message::invoke_member(int member, Access access, std::span<Value> arguments) {
   const MessageClass::Member& action = class_.member(static_cast<std::size_t>(member));
-  // What scripts read most: a field as it was set.
+  // What scripts read most, kept apart from the rest to be quick: a field as it was set.
   if (access == Access::Get && action.stored_text != MessageClass::kNone && !received_) {
     return std::string_view(texts_[static_cast<std::size_t>(action.stored_text)]);
   }
+  return invoke_action(action, access, arguments);
+}
+
+Value Message::invoke_action(const MessageClass::Member& action, Access access, std::span<Value> arguments) {
   switch (action.action) {
     case MessageClass::Action::Field: return invoke_field(action.field, access, arguments);
     case MessageClass::Action::MessageId: return message_id();

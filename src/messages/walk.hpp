@@ -18,7 +18,8 @@ constexpr std::size_t small_value(std::string_view bits) noexcept {
 ///   std::string_view value(std::size_t field, std::size_t index): of an earlier field, in the same record if repeated
 ///   bool tail_is_there(std::size_t field): whether a flag of an optional chain, or a tail, is there at all
 ///   std::size_t rest(): what is left of the message, for a field that takes it all
-///   void begin(const MessageClass::Group& group, std::size_t count): the next group and its number of repetitions
+///   bool begin(const MessageClass::Group& group, std::size_t count): the next group and its number of repetitions;
+///     true if the side has taken it whole
 ///   void visit(std::size_t field, std::size_t index, std::size_t width): the next field
 ///   void skip(std::size_t field, std::size_t index): a field that is not there
 ///   bool done(): nothing is left to be repeated
@@ -59,7 +60,7 @@ void walk(const MessageClass& message, Side& side) {
       count = small_value(value(group.count, 0));
       if (group.added_count != MessageClass::kNone) count += small_value(value(group.added_count, 0));
     }
-    side.begin(group, count);
+    if (side.begin(group, count)) continue;
     for (std::size_t index = 0; index < count && !(group.repeated && side.done()); ++index) {
       for (std::size_t i = group.first; i < group.end; ++i) {
         const MessageClass::Field& field = fields[i];
@@ -106,7 +107,7 @@ class Layout {
   [[nodiscard]] std::string_view value(std::size_t field, std::size_t index) const noexcept;
   [[nodiscard]] bool tail_is_there(std::size_t field) noexcept;
   [[nodiscard]] std::size_t rest() const noexcept { return done() ? 0 : bits_.size() - position_; }
-  void begin(const MessageClass::Group& group, std::size_t count);
+  bool begin(const MessageClass::Group& group, std::size_t count);
   void visit(std::size_t field, std::size_t index, std::size_t width) noexcept;
   void skip(std::size_t field, std::size_t index) noexcept;
   [[nodiscard]] bool done() const noexcept { return position_ >= bits_.size(); }

@@ -26,7 +26,7 @@ SUCCEEDS = [
     ("classes ParameterFunctions", ["ReadINI.ParameterFunctions"]),
     ("describe vorlan.sb_ses_msgsessionclose", [
         "Vorlan.SB_Ses_MsgSessionClose (C.S0024 clause 7.2.6.2.1)",
-        "MoreInfo 8 x MoreInfoLen if MoreInfoLen > 0 set",
+        "MoreInfo 8 x MoreInfoLen set if MoreInfoLen > 0",
         "PRstr_CloseReason As String get let",
         "CreateMessage(ByRef MessageObject As Object) As Boolean",
         'PRstr_MoreInfo: let of another width "Length of MoreInfo field should be MoreInfo * 8 bits."']),

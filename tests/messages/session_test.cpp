@@ -138,6 +138,13 @@ TEST(ReceivedSessionMessages, AreCutAtTheirPlaces) {
   EXPECT_EQ(configuration.get<"PRstr_TransactionID">(), "00010001");
   EXPECT_EQ(configuration.get<"PRstr_SessionConfigurationToken">(), "0000000000000000");
 
+  // A received length of 0 hides what was stored.
+  SB_Ses_MsgSessionClose close;
+  close.let<"PRstr_MoreInfoLen">("00000001");
+  close.let<"PRstr_MoreInfo">("11110000");
+  close.receive(received("01 00 00"));
+  EXPECT_EQ(close.get<"PRstr_MoreInfo">(), "");
+
   // Another message's octets are read at the same places.
   SB_Ses_MsgUATIRequest request;
   request.receive(received("FF 2A"));

@@ -4,7 +4,7 @@ namespace vorlan::sector_parameters {
 
 std::string sector_id(Configuration& configuration) {
   constexpr std::size_t kWholeBits = 128;
-  const std::string low = configuration.text("PRstr_SectorID");
+  std::string low = configuration.text("PRstr_SectorID");
   if (low.size() >= kWholeBits) return low;
   std::string whole = configuration.text("PRstr_SectorID127_96");
   whole += configuration.text("PRstr_SectorID95_64");

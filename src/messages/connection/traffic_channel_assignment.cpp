@@ -14,6 +14,12 @@ std::string_view mac_index_of(const Message& message, std::size_t pilot) {
 
 }  // namespace
 
+std::string channel(Configuration& configuration) {
+  const std::string band_class = configuration.bits("PRint_BandClass", 5);
+  const std::string number = configuration.bits("PRint_ChannelNumber", 11);
+  return configuration.text("PRstr_SystemType") + band_class + number;
+}
+
 std::string mac_index(Configuration& configuration) {
   constexpr std::int16_t kSubtype2 = 2;
   return configuration.value("PRint_PhyLaySubType").to_integer() == kSubtype2

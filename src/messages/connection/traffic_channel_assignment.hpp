@@ -1,13 +1,14 @@
 // TrafficChannelAssignment of the Route Update Protocol (C.S0024-A 8.7.6.2.2).
 #pragma once
 
-#include "messages/connection/channel.hpp"
 #include "messages/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {
 
 namespace traffic_channel_assignment {
+/// The channel record of the configuration, its numbers read before its SystemType.
+std::string channel(Configuration& configuration);
 /// The MACIndex of the configuration: that of subtype 2, in 7 bits, exactly when the physical layer subtype is 2, for
 /// only then can it exceed 63; otherwise 6 bits.
 std::string mac_index(Configuration& configuration);
@@ -32,7 +33,7 @@ inline constexpr FieldSpec kTrafficChannelAssignmentFields[] = {
     {.name = "PRstr_Channel",
      .bits = 24,
      .present = is_one("PRstr_ChannelIncluded"),
-     .from = {.property = "PRint_ChannelNumber", .read = channel_of_sector, .at_initialize = true},
+     .from = {.property = "PRint_ChannelNumber", .read = traffic_channel_assignment::channel, .at_initialize = true},
      .wrong_length = "Length of <Channel> field should be 24 bits.",
      .meaning = &kChannelRecord,
      .summary = "SystemType 8, BandClass 5, ChannelNumber 11."},
