@@ -33,7 +33,8 @@ Ref<Object> sector() {
 }
 
 void YardstickPack(benchmark::State& state) {
-  yardstick::UATIAssignment message{"00000111", "01101000", kUATI104, "00010001", "101010111100110111101111", "0010"};
+  yardstick::UATIAssignment message{"00000111", "01101000", kUATI104.data(), "00010001", "101010111100110111101111",
+                                    "0010"};
   std::uint8_t octets[22];
   for (auto _ : state) {
     benchmark::DoNotOptimize(message);
