@@ -3,6 +3,7 @@
 Run by scripts/demo, or by hand:  PYTHONPATH=build/python python3 examples/first_messages.py [PARAMETER-FILE [SECTOR]]
 """
 
+import signal
 import subprocess
 import sys
 from pathlib import Path
@@ -112,6 +113,7 @@ def main(parameter_file=EXAMPLES / "sector.ini", sector_name="SECTOR 0"):
 
 
 if __name__ == "__main__":
+    signal.signal(signal.SIGPIPE, signal.SIG_DFL)  # quiet when a pager is left early
     try:
         main(*sys.argv[1:])
     except vorlan.AutomationError as error:

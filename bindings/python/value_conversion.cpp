@@ -109,6 +109,15 @@ Value to_array(State& state, PyObject* object) {
   return values;
 }
 
+/// What a ByRef holds; a ByRef in a ByRef has no value, and neither has one that was made around its constructor.
+Value referenced(State& state, PyObject* object) {
+  const auto* const by_ref = py::handle(object).cast<const ByRef*>();
+  if (by_ref == nullptr || by_ref->value.ptr() == nullptr || Py_TYPE(by_ref->value.ptr()) == state.by_ref_type) {
+    throw Error(ErrorNumber::TypeMismatch);
+  }
+  return to_value(state, by_ref->value.ptr());
+}
+
 }  // namespace
 
 Value to_value(State& state, PyObject* object) {
@@ -120,7 +129,7 @@ Value to_value(State& state, PyObject* object) {
   if (object == state.null) return Null{};
   if (object == state.empty) return {};
   if (PyObject_TypeCheck(object, state.object_type)) return Ref<Object>(as_wrapper(object).object);
-  if (Py_TYPE(object) == state.by_ref_type) return to_value(state, py::handle(object).cast<ByRef&>().value.ptr());
+  if (Py_TYPE(object) == state.by_ref_type) return referenced(state, object);
   if (PyList_Check(object) || PyTuple_Check(object)) return to_array(state, object);
   import_datetime();
   if (PyDate_Check(object)) return to_date(object);

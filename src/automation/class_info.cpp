@@ -93,6 +93,7 @@ Value ClassObject::invoke(std::string_view member, Access access, std::span<Valu
   if (index < 0) refuse_call(index, member, access);
   const ClassInfo::Dispatch& dispatch = info_->dispatch(index);
   const std::size_t value = access == Access::Let || access == Access::Set ? 1 : 0;
+  // Too few arguments wrap around to a large number, so that one comparison refuses both too few and too many.
   if ((dispatch.allowed & bit(access)) == 0 ||
       arguments.size() - dispatch.fewest - value > std::size_t{dispatch.most} - dispatch.fewest) {
     refuse_call(index, member, access);

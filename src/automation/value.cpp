@@ -218,12 +218,6 @@ Ref<Object> Value::to_object() const {
   mismatch();
 }
 
-Ref<Object> Value::to_set_object() const {
-  Ref<Object> object = to_object();
-  if (!object) throw Error(ErrorNumber::ObjectNotSet);
-  return object;
-}
-
 Value Value::converted_to(ValueType wanted) const {
   if (wanted == type() || wanted == ValueType::Any) return *this;
   switch (wanted) {

@@ -92,8 +92,6 @@ class Value {
   [[nodiscard]] std::string to_text() const;
   /// The object; Empty and the empty reference give Nothing, anything else is error 13.
   [[nodiscard]] Ref<Object> to_object() const;
-  /// The object; Nothing is error 91.
-  [[nodiscard]] Ref<Object> to_set_object() const;
   /// The same value as another type; Any and its own type leave it unchanged.
   [[nodiscard]] Value converted_to(ValueType type) const;
 

@@ -15,7 +15,7 @@ void Layout::find(const MessageClass& message, std::string_view bits, std::span<
 
 std::string_view Layout::value(std::size_t field, std::size_t index) const noexcept {
   const MessageClass::Field& row = message_->field(field);
-  if (!row.spec->sent || row.spec->integer) return stored_[static_cast<std::size_t>(row.slot)];
+  if (!row.on_air) return stored_[static_cast<std::size_t>(row.slot)];
   const Place& place = places_[field];
   if (place.count == 0) return {};
   const Extent found = extent(field, place.count > 1 ? index : 0);
@@ -39,7 +39,7 @@ bool Layout::begin(const MessageClass::Group& group, std::size_t count) {
   return false;
 }
 
-void Layout::visit(std::size_t field, std::size_t index, std::size_t width) noexcept {
+void Layout::place(std::size_t field, std::size_t index, std::size_t width) noexcept {
   const Place& place = places_[field];
   extents_[place.first + index * place.stride] = {static_cast<std::uint32_t>(position_),
                                                   static_cast<std::uint32_t>(width), true};

@@ -40,20 +40,20 @@ class Encoder {
   }
   void skip(std::size_t, std::size_t) noexcept {}
 
-  void visit(std::size_t field, std::size_t index, std::size_t) {
-    const FieldSpec& spec = *message_.message_class().field(field).spec;
-    if (spec.build != nullptr) {
-      spec.build(context_, bits_);
-    } else if (spec.view != nullptr) {
-      bits_ += spec.view(message_, index);
-    } else if (spec.from.at_create) {
-      if (spec.from.read == nullptr && spec.from.bits == 0) {
-        message_.configuration().append(spec.from.property, bits_);
-      } else {
-        bits_ += message_.configured_text(spec.from);
-      }
-    } else {
-      bits_ += message_.stored(field, index);
+  template <class Width>
+  void visit(std::size_t field, std::size_t index, Width&&) {
+    const MessageClass::Field& row = message_.message_class().field(field);
+    switch (row.joins) {
+      case MessageClass::Joins::Stored: bits_ += message_.stored(field, index); break;
+      case MessageClass::Joins::Built: row.spec->build(context_, bits_); break;
+      case MessageClass::Joins::Viewed: bits_ += row.spec->view(message_, index); break;
+      case MessageClass::Joins::Configured:
+        if (row.spec->from.read == nullptr && row.spec->from.bits == 0) {
+          message_.configuration().append(row.spec->from.property, bits_);
+        } else {
+          bits_ += message_.configured_text(row.spec->from);
+        }
+        break;
     }
   }
 
@@ -123,29 +123,33 @@ void Message::initialize(Ref<Object> sector, Ref<Object> test_set, std::string_v
 }
 
 std::string Message::configured_text(const Configured& from) const {
-  Configuration values = configuration();
+  const Ref<Object> sector = sector_;
+  const Ref<Object> parameters = parameters_;
+  Configuration values(sector, parameters);
   if (from.read != nullptr) return from.read(values);
   return from.bits != 0 ? values.bits(from.property, from.bits) : values.text(from.property);
 }
 
 void Message::take_initial_configuration() {
-  std::vector<std::pair<std::string*, std::string>> taken;
+  // The configuration may be a script's object and call back: places are looked up when all values are there.
+  std::vector<std::pair<const MessageClass::Field*, std::string>> taken;
   for (const MessageClass::Field& field : class_.fields()) {
     if (!field.spec->from.at_initialize) continue;
-    const auto slot = static_cast<std::size_t>(field.slot);
-    std::string* target = &texts_[0];
-    if (is_repeated(*field.spec)) {
-      if (lists_[slot].empty()) continue;
-      target = &lists_[slot].front();
-    } else {
-      target = &texts_[slot];
-    }
-    taken.emplace_back(target, configured_text(field.spec->from));
+    if (is_repeated(*field.spec) && lists_[static_cast<std::size_t>(field.slot)].empty()) continue;
+    taken.emplace_back(&field, configured_text(field.spec->from));
   }
-  for (auto& [target, text] : taken) *target = std::move(text);
+  for (auto& [field, text] : taken) {
+    const auto slot = static_cast<std::size_t>(field->slot);
+    if (!is_repeated(*field->spec)) {
+      texts_[slot] = std::move(text);
+    } else if (!lists_[slot].empty()) {
+      lists_[slot].front() = std::move(text);
+    }
+  }
 }
 
 void Message::check_counts() const {
+  if (!class_.checks_counts()) return;
   const MessageSpec& spec = class_.spec();
   for (const MessageClass::Field& field : class_.fields()) {
     if (field.spec->too_few.empty()) continue;
@@ -167,38 +171,49 @@ void Message::check_counts() const {
 
 void Message::compose(const BuildContext& context, std::string& bits) {
   check_counts();
+  constexpr std::size_t kUsualBits = 256;
+  bits.reserve(kUsualBits);
   bits += class_.spec().id;
   Encoder encoder(context, bits);
   walk(class_, encoder);
   if (class_.spec().padded) add_padding(bits);
 }
 
-std::string Message::encode(std::span<const Value> arguments) {
+void Message::encode_into(std::string& bits, std::span<const Value> arguments) {
   const MessageSpec& spec = class_.spec();
   if (!initialized_) {
     vorlan::raise(spec.create_source.empty() ? source_of(spec, "CreateMessage") : spec.create_source,
                   spec.not_initialized);
   }
+  bits.clear();
+  // A script's configuration may call back and give this message another: the one in use stays until it has answered.
+  const Ref<Object> sector = sector_;
+  const Ref<Object> parameters = parameters_;
   const BuildContext context{*this, arguments};
-  std::string bits;
   if (spec.create != nullptr) {
     spec.create(context, bits);
   } else if (encoder_mode_) {
     bits = encoder_string_;
   } else {
-    constexpr std::size_t kUsualBits = 256;
-    bits.reserve(kUsualBits);
     compose(context, bits);
   }
+}
+
+std::string Message::encode(std::span<const Value> arguments) {
+  std::string bits;
+  encode_into(bits, arguments);
   return bits;
 }
 
 bool Message::create_message(const Ref<Object>& message_object, std::span<const Value> arguments) {
-  const std::string bits = encode(arguments);
+  // Taken from the object while it is filled: a message object may call back.
+  std::string bits = std::move(built_);
+  encode_into(bits, arguments);
   if (bits.size() > kMaxMessageBits) throw Error(ErrorNumber::Overflow, source_of(class_.spec(), "CreateMessage"));
   Object& target = existing(message_object, "CreateMessage");
   target.let("Length", static_cast<std::int16_t>(bits.size()));
   bits_to_message(bits, target);
+  built_ = std::move(bits);
   return true;
 }
 
@@ -227,6 +242,10 @@ void Message::check_width(std::size_t field, std::size_t index, std::string_view
     case Accepts::OctetsAndSixBits: right = value.size() % 8 == 6; break;
   }
   if (!right) raise(spec, Fault::WrongLength);
+  const auto printable = [](char c) { return c >= ' ' && c <= '~'; };
+  if (!std::all_of(value.begin(), value.end(), printable)) {
+    throw Error(ErrorNumber::TypeMismatch, source_of(class_.spec(), spec, Fault::WrongLength), "a bit string wanted");
+  }
   if (spec.check != nullptr) spec.check(*this, index, value);
 }
 
@@ -349,7 +368,15 @@ std::string_view Message::get_field(std::size_t field) const {
   if (!received_ && class_.spec().direction == Direction::Parsed) raise(spec, Fault::NotSet);
   if (!received_ || spec.read_stored || !spec.sent || spec.integer) return unreceived(field, 0);
   Extent found{static_cast<std::uint32_t>(row.offset), spec.bits, true};
-  if (row.offset == MessageClass::kNone || spec.width.kind != WidthRule::Kind::Fixed) {
+  const bool placed = row.offset != MessageClass::kNone;
+  if (placed && spec.width.kind == WidthRule::Kind::OctetsCountedBy &&
+      class_.field(static_cast<std::size_t>(row.width_field)).on_air) {
+    // The first field of varying width stands at a fixed place, and so does its count.
+    const MessageClass::Field& count = class_.field(static_cast<std::size_t>(row.width_field));
+    const Extent counted{static_cast<std::uint32_t>(count.offset), count.spec->bits, true};
+    found.width = static_cast<std::uint32_t>(8 * small_value(slice(message_string_, counted)));
+    if (spec.get_to_end) found.width = static_cast<std::uint32_t>(message_string_.size());
+  } else if (!placed || spec.width.kind != WidthRule::Kind::Fixed) {
     found = received_extent(row.same_as != MessageClass::kNone ? static_cast<std::size_t>(row.same_as) : field, 0);
     if (!found.present) {
       if (!spec.absent.empty()) raise(spec, Fault::Absent);
@@ -387,9 +414,10 @@ std::string_view Message::get_field(std::size_t field, std::size_t index) const 
 // --- receiving
 
 void Message::receive(Ref<Object> message_object) {
-  std::string bits = read_whole_octets(existing(message_object, "PRobj_MessageObject"));
+  std::string bits = std::move(spare_);
+  read_whole_octets(existing(message_object, "PRobj_MessageObject"), bits);
   message_object_ = std::move(message_object);
-  message_string_ = std::move(bits);
+  spare_ = std::exchange(message_string_, std::move(bits));
   received_ = true;
   layout_known_ = false;
 }

@@ -46,7 +46,7 @@ class Message : public ClassObject {
   [[nodiscard]] std::string_view checked_message_string() const;
   [[nodiscard]] std::string message_id() const;
 
-  /// A property's setter and getter, by row. A view holds until the object changes.
+  /// A property's setter and getter, by row. A view holds until the next call.
   void let_field(std::size_t field, std::string_view value);
   void let_field(std::size_t field, std::size_t index, std::string_view value);
   [[nodiscard]] std::string_view get_field(std::size_t field) const;
@@ -79,6 +79,7 @@ class Message : public ClassObject {
  private:
   Value invoke_action(const MessageClass::Member& action, Access access, std::span<Value> arguments);
   Value invoke_field(std::size_t field, Access access, std::span<Value> arguments);
+  void encode_into(std::string& bits, std::span<const Value> arguments);
   void check_letting(const FieldSpec& spec) const;
   void check_width(std::size_t field, std::size_t index, std::string_view value) const;
   void resize_lists(std::size_t count_field);
@@ -101,10 +102,12 @@ class Message : public ClassObject {
   Ref<Object> sector_;
   Ref<Object> parameters_;
   Ref<Object> test_set_;
+  std::string built_;  ///< the bits sent last, for their memory
 
   bool received_ = false;
   Ref<Object> message_object_;
   std::string message_string_;
+  std::string spare_;  ///< the message string before, for its memory
   mutable Layout layout_;
   mutable bool layout_known_ = false;
   mutable std::string viewed_;  ///< the last value made by a row's view

@@ -68,6 +68,17 @@ void MessageClass::resolve() {
     const FieldSpec& spec = spec_->fields[i];
     Field& field = fields_[i];
     field.spec = &spec;
+    field.on_air = spec.sent && !spec.integer;
+    field.always =
+        spec.present.kind == PresenceRule::Kind::Always && spec.present.also_one.empty() && !spec.present.also_in_tail;
+    if (spec.build != nullptr) {
+      field.joins = Joins::Built;
+    } else if (spec.view != nullptr) {
+      field.joins = Joins::Viewed;
+    } else if (spec.from.at_create) {
+      field.joins = Joins::Configured;
+    }
+    if (!spec.too_few.empty()) checks_counts_ = true;
     field.width_field = index_of(*spec_, spec.width.field);
     field.present_field = index_of(*spec_, spec.present.field);
     field.present_other = index_of(*spec_, spec.present.other);
@@ -94,9 +105,13 @@ void MessageClass::resolve() {
   }
   for (std::size_t i = 0; i < fields_.size();) {
     const Repetition& repeat = fields_[i].spec->repeat;
+    const bool repeated = is_repeated(*fields_[i].spec);
+    const auto belongs = [&](const FieldSpec& next) {
+      return repeated ? repeat.record != 0 && next.repeat.record == repeat.record : !is_repeated(next);
+    };
     std::size_t end = i + 1;
-    while (repeat.record != 0 && end < fields_.size() && fields_[end].spec->repeat.record == repeat.record) ++end;
-    groups_.push_back({static_cast<std::uint16_t>(i), static_cast<std::uint16_t>(end), is_repeated(*fields_[i].spec),
+    while (end < fields_.size() && belongs(*fields_[end].spec)) ++end;
+    groups_.push_back({static_cast<std::uint16_t>(i), static_cast<std::uint16_t>(end), repeated,
                        end == i + 1 && is_stored_list(*fields_[i].spec), repeat.times, index_of(*spec_, repeat.count),
                        index_of(*spec_, repeat.added_count)});
     i = end;
@@ -105,17 +120,18 @@ void MessageClass::resolve() {
 
 void MessageClass::place() {
   auto offset = static_cast<std::int32_t>(id_bits());
+  bool fixed = true;
   for (const Group& group : groups_) {
     for (std::size_t i = group.first; i < group.end; ++i) {
       const FieldSpec& spec = *fields_[i].spec;
-      if (!spec.sent || spec.integer) continue;
-      if (group.repeated || spec.present.kind != PresenceRule::Kind::Always) fixed_ = false;
-      if (!fixed_) continue;
+      if (!fields_[i].on_air) continue;
+      if (group.repeated || !fields_[i].always) fixed = false;
+      if (!fixed) continue;
       fields_[i].offset = offset;
       if (spec.width.kind == WidthRule::Kind::Fixed) {
         offset += spec.bits;
       } else {
-        fixed_ = false;
+        fixed = false;
       }
     }
   }

@@ -18,9 +18,15 @@ class MessageClass {
 
   static constexpr std::int16_t kNone = -1;
 
-  /// A row with the fields that it names resolved to indices.
+  /// What CreateMessage joins for a row.
+  enum class Joins : std::uint8_t { Stored, Built, Viewed, Configured };
+
+  /// A row with the fields that it names resolved to indices, and what every walk asks of it at hand.
   struct Field {
     const FieldSpec* spec;
+    bool on_air = true;
+    bool always = true;  ///< there, whatever other fields say
+    Joins joins = Joins::Stored;
     std::int16_t width_field = kNone;
     std::int16_t present_field = kNone;
     std::int16_t present_other = kNone;
@@ -32,7 +38,7 @@ class MessageClass {
     std::string initial;
   };
 
-  /// Adjacent rows that are repeated together, or a single row.
+  /// Adjacent rows that are repeated together, or that are not repeated at all.
   struct Group {
     std::uint16_t first;
     std::uint16_t end;
@@ -71,8 +77,8 @@ class MessageClass {
   [[nodiscard]] std::span<const std::uint16_t> sized_by(std::size_t field) const noexcept { return sized_by_[field]; }
   [[nodiscard]] const std::vector<std::string>& initial_texts() const noexcept { return initial_texts_; }
   [[nodiscard]] std::size_t lists() const noexcept { return lists_; }
-  /// Every received message has all its fields at the same places.
-  [[nodiscard]] bool fixed() const noexcept { return fixed_; }
+  /// Whether CreateMessage has lists to count.
+  [[nodiscard]] bool checks_counts() const noexcept { return checks_counts_; }
   /// The row that opens the optional tail; only messages that have one are asked.
   [[nodiscard]] std::size_t tail() const noexcept { return tail_; }
   /// Width of the MessageID of a message that the class builds or parses.
@@ -92,7 +98,7 @@ class MessageClass {
   std::vector<std::vector<std::uint16_t>> sized_by_;
   std::vector<std::string> initial_texts_;
   std::size_t lists_ = 0;
-  bool fixed_ = true;
+  bool checks_counts_ = false;
   std::size_t tail_ = 0;
   ClassInfo info_;
 };

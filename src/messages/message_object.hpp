@@ -7,7 +7,8 @@
 
 namespace vorlan {
 
-/// The bits of a message object's whole octets, each read once; bits of a final partial octet are not read.
-std::string read_whole_octets(Object& message);
+/// Replaces `bits` by those of a message object's whole octets, each read once; bits of a final partial octet are not
+/// read.
+void read_whole_octets(Object& message, std::string& bits);
 
 }  // namespace vorlan

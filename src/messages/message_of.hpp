@@ -19,7 +19,7 @@ struct MemberName {
 /// The class made from a message's rows:
 ///   SB_Ses_MsgSessionClose m;
 ///   m.let<"PRstr_MoreInfoLen">("00000001");
-/// An unknown name does not compile. Views returned by get() hold until the object changes.
+/// An unknown name does not compile. A view returned by get() holds until the next call on the object.
 template <const MessageSpec& Spec>
 class MessageOf : public Message {
  public:

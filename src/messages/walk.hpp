@@ -20,7 +20,7 @@ constexpr std::size_t small_value(std::string_view bits) noexcept {
 ///   std::size_t rest(): what is left of the message, for a field that takes it all
 ///   bool begin(const MessageClass::Group& group, std::size_t count): the next group and its number of repetitions;
 ///     true if the side has taken it whole
-///   void visit(std::size_t field, std::size_t index, std::size_t width): the next field
+///   void visit(std::size_t field, std::size_t index, Width&& width): the next field; width() tells how wide it is
 ///   void skip(std::size_t field, std::size_t index): a field that is not there
 ///   bool done(): nothing is left to be repeated
 template <class Side>
@@ -64,9 +64,9 @@ void walk(const MessageClass& message, Side& side) {
     for (std::size_t index = 0; index < count && !(group.repeated && side.done()); ++index) {
       for (std::size_t i = group.first; i < group.end; ++i) {
         const MessageClass::Field& field = fields[i];
-        if (!field.spec->sent || field.spec->integer) continue;
-        if (is_there(field, i, index)) {
-          side.visit(i, index, width_of(field, index));
+        if (!field.on_air) continue;
+        if (field.always || is_there(field, i, index)) {
+          side.visit(i, index, [&] { return width_of(field, index); });
         } else {
           side.skip(i, index);
         }
@@ -108,7 +108,10 @@ class Layout {
   [[nodiscard]] bool tail_is_there(std::size_t field) noexcept;
   [[nodiscard]] std::size_t rest() const noexcept { return done() ? 0 : bits_.size() - position_; }
   bool begin(const MessageClass::Group& group, std::size_t count);
-  void visit(std::size_t field, std::size_t index, std::size_t width) noexcept;
+  template <class Width>
+  void visit(std::size_t field, std::size_t index, Width&& width) {
+    place(field, index, width());
+  }
   void skip(std::size_t field, std::size_t index) noexcept;
   [[nodiscard]] bool done() const noexcept { return position_ >= bits_.size(); }
 
@@ -119,6 +122,8 @@ class Layout {
     std::uint32_t stride = 0;
     std::uint32_t count = 0;
   };
+
+  void place(std::size_t field, std::size_t index, std::size_t width) noexcept;
 
   const MessageClass* message_ = nullptr;
   std::string_view bits_;

@@ -34,7 +34,7 @@ SB_GlobalParameters::SB_GlobalParameters(Platform& platform) : ClassObject(info(
 }
 
 const std::string* SB_GlobalParameters::held_text(std::string_view property) const noexcept {
-  const auto row = static_cast<std::size_t>(info().find(property));
+  const auto row = static_cast<std::size_t>(class_info()->find(property));
   return row < values_.size() ? values_[row].as<std::string>() : nullptr;
 }
 
@@ -205,9 +205,10 @@ std::int16_t SB_GlobalParameters::personality_count() const {
 }
 
 void SB_GlobalParameters::log(const std::string& line) {
-  if (test_report_) {
+  // Held while it writes: a script's report may take itself out.
+  if (const Ref<Object> report = test_report_) {
     try {
-      test_report_->call(kAddReportLine, line);
+      report->call(kAddReportLine, line);
       return;
     } catch (const Error& error) {
       // A report that cannot take a line must not hide what the line is about.

@@ -79,7 +79,6 @@ TEST(Value, RefusesWhatDoesNotFit) {
   for (const Case& c : cases) {
     EXPECT_EQ(error_number([&] { (void)c.from.converted_to(c.to); }), c.number) << ::testing::PrintToString(c.from);
   }
-  EXPECT_EQ(error_number([] { (void)Value(Ref<Object>()).to_set_object(); }), 91);
 }
 
 TEST(Value, WritesNumbersAsAutomationDoes) {

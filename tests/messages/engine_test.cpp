@@ -1,6 +1,9 @@
 // The engine as scripts and foreign objects meet it.
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include "messages/connection/traffic_channel_assignment.hpp"
 #include "messages/dissection.hpp"
 #include "messages/session/address_management.hpp"
 #include "messages/session/session_management.hpp"
@@ -71,12 +74,49 @@ TEST(MessageEngine, AnswersLateBoundClients) {
   // Not text, or not of the field's width: the value before stays.
   EXPECT_EQ(error_number([&] { message->let("PRstr_CloseReason", std::int16_t{1}); }), 1);
   EXPECT_EQ(message->get("PRstr_CloseReason"), Value("00000001"));
-  // A width is all that is checked: other characters go through, as one-less bits.
-  message->let("PRstr_CloseReason", "0000\x01\xC3\xA9x");
+  for (const char* no_bits : {"0000\x01"
+                              "000",
+                              "000000\xC3\xA9"}) {  // eight octets each
+    EXPECT_EQ(raised_by([&] { message->let("PRstr_CloseReason", no_bits); }),
+              (Raised{13, "SB_Ses_MsgSessionClose.PRstr_CloseReason", "Type mismatch: a bit string wanted"}));
+  }
+  EXPECT_EQ(message->get("PRstr_CloseReason"), Value("00000001"));
+  // Any other character goes through, and is sent as a zero.
+  message->let("PRstr_CloseReason", "0000x21 ");
   message->call("Initialize", Value(), "");
   const auto object = make<simulator::MessageObject>();
   message->call("CreateMessage", Ref<Object>(object));
-  EXPECT_EQ(object->hex(), "01 00");
+  EXPECT_EQ(object->hex(), "01 02");
+}
+
+/// A configuration that calls back into the message that reads it.
+class MeddlingConfiguration final : public Object {
+ public:
+  explicit MeddlingConfiguration(std::function<void()> meddle) : meddle_(std::move(meddle)) {}
+  Value invoke(std::string_view member, Access, std::span<Value> arguments) override {
+    if (meddle_) std::exchange(meddle_, {})();
+    return values_->get(member, arguments.empty() ? Value() : arguments[0]);
+  }
+
+ private:
+  std::function<void()> meddle_;
+  Ref<Object> values_ = fake_configuration();
+};
+
+TEST(MessageEngine, SurvivesAConfigurationThatCallsBack) {
+  SB_Con_MsgTrafficChannelAssignment message;
+  const auto sector_of = [](std::function<void()> meddle) {
+    return make<PropertyBag>(std::map<std::string, Value, PropertyBag::Less>{
+        {"PRobj_GlobalParameters", Ref<Object>(make<MeddlingConfiguration>(std::move(meddle)))}});
+  };
+  message.initialize(sector_of({}), {}, "");
+  // Lists are made afresh while their first elements are being read.
+  message.initialize(sector_of([&] { message.let<"PRstr_NumPilots">("1111"); }), {}, "");
+  // The configuration in use gives way to another while it answers.
+  message.initialize(sector_of([&] { message.initialize(sector_of({}), {}, ""); }), {}, "");
+  message.initialize(sector_of([] {}), {}, "");
+  message.let<"PRstr_NumPilots">("0001");
+  EXPECT_EQ(message.encode().size(), 64U);
 }
 
 TEST(Dissection, NamesFieldsAndUnits) {
