@@ -113,7 +113,8 @@ def main(parameter_file=EXAMPLES / "sector.ini", sector_name="SECTOR 0"):
 
 
 if __name__ == "__main__":
-    signal.signal(signal.SIGPIPE, signal.SIG_DFL)  # quiet when a pager is left early
+    if hasattr(signal, "SIGPIPE"):
+        signal.signal(signal.SIGPIPE, signal.SIG_DFL)  # quiet when a pager is left early
     try:
         main(*sys.argv[1:])
     except vorlan.AutomationError as error:
