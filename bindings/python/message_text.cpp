@@ -1,6 +1,6 @@
 #include "message_text.hpp"
 
-#include "messages/field_tree.hpp"
+#include "codec/field_tree.hpp"
 #include "messages/message.hpp"
 
 namespace vorlan::python {

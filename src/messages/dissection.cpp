@@ -1,33 +1,10 @@
 #include "messages/dissection.hpp"
 
 #include "automation/value.hpp"
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 #include "messages/walk.hpp"
 
 namespace vorlan {
-
-namespace {
-
-std::string_view bare(std::string_view name) { return name.starts_with("PR") ? name.substr(name.find('_') + 1) : name; }
-
-std::string plain_value(std::string_view bits) {
-  constexpr std::size_t kNumberBits = 31;
-  constexpr std::size_t kHexBits = 256;
-  if (bits.empty() || bits.size() > kHexBits) return {};
-  return bits.size() <= kNumberBits ? std::to_string(small_value(bits)) : value_text(kHex, bits);
-}
-
-DissectedField leaf(std::string_view name, const Meaning* meaning, std::string_view message, Extent extent) {
-  const std::string_view bits = slice(message, extent);
-  DissectedField field{.name = std::string(bare(name)), .first = extent.offset + 1, .bits = std::string(bits)};
-  if (meaning != nullptr) field.value = value_text(*meaning, bits);
-  if (field.value.empty()) field.value = plain_value(bits);
-  if (bits.size() < extent.width)
-    field.note = bits.empty() ? "past the end of the message" : "cut off by the end of the message";
-  return field;
-}
-
-}  // namespace
 
 std::vector<DissectedField> dissect(const MessageClass& message, std::string_view bits,
                                     std::span<const std::pair<std::string, std::string>> controls) {
@@ -43,7 +20,7 @@ std::vector<DissectedField> dissect(const MessageClass& message, std::string_vie
   std::vector<DissectedField> tree;
   const auto id_bits = static_cast<std::uint32_t>(message.id_bits());
   if (id_bits != 0) {
-    DissectedField id = leaf("MessageID", &kHex, bits, {0, id_bits, true});
+    DissectedField id = dissected_leaf("MessageID", &kHex, bits, {0, id_bits, true});
     const MessageSpec& spec = message.spec();
     const std::string_view wanted = spec.id;
     const bool other = wanted.empty() ? spec.has_id_value && small_value(id.bits) != spec.id_value : id.bits != wanted;
@@ -59,7 +36,7 @@ std::vector<DissectedField> dissect(const MessageClass& message, std::string_vie
         const FieldSpec& spec = *message.field(i).spec;
         const Extent extent = layout.extent(i, index);
         if (!spec.sent || spec.integer || !extent.present) continue;
-        DissectedField field = leaf(spec.name, spec.meaning, bits, extent);
+        DissectedField field = dissected_leaf(spec.name, spec.meaning, bits, extent);
         if (group.repeated && !record) field.name += "[" + std::to_string(index) + "]";
         fields.push_back(std::move(field));
       }
@@ -72,9 +49,9 @@ std::vector<DissectedField> dissect(const MessageClass& message, std::string_vie
     }
   }
   if (layout.end() < bits.size()) {
-    DissectedField rest =
-        leaf("Reserved", nullptr, bits,
-             {static_cast<std::uint32_t>(layout.end()), static_cast<std::uint32_t>(bits.size() - layout.end()), true});
+    DissectedField rest = dissected_leaf(
+        "Reserved", nullptr, bits,
+        {static_cast<std::uint32_t>(layout.end()), static_cast<std::uint32_t>(bits.size() - layout.end()), true});
     if (rest.bits.size() >= 8 || rest.bits.find('1') != std::string::npos) {
       rest.name = "Trailing";
       rest.note = "not a field of this message";

@@ -8,9 +8,10 @@
 #include <string>
 #include <string_view>
 
+#include "automation/member_key.hpp"
 #include "automation/value.hpp"
-#include "messages/meaning.hpp"
-#include "messages/protocol.hpp"
+#include "codec/meaning.hpp"
+#include "codec/protocol.hpp"
 
 namespace vorlan {
 
@@ -97,7 +98,7 @@ enum class Accepts : std::uint8_t { OwnWidth, WholeOctets, OctetsAndSixBits };
 
 /// A value of the sector's configuration: its text as it stands (bits 0), or its number in so many bits.
 struct Configured {
-  std::string_view property = {};
+  PreparedName property = {};
   std::uint8_t bits = 0;
   /// Where it takes more than one property: makes the text.
   std::string (*read)(Configuration& configuration) = nullptr;
@@ -109,7 +110,7 @@ struct Configured {
   [[nodiscard]] constexpr bool exists() const noexcept { return at_create || at_initialize || at_count; }
 };
 /// Joined by CreateMessage; the script cannot set it.
-constexpr Configured configured(std::string_view property, std::uint8_t bits = 0) {
+constexpr Configured configured(const PreparedName& property, std::uint8_t bits = 0) {
   return {.property = property, .bits = bits, .at_create = true};
 }
 

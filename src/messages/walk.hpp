@@ -2,17 +2,10 @@
 // there, how often and how wide is decided here for both.
 #pragma once
 
-#include "common/conversions.hpp"
+#include "codec/extent.hpp"
 #include "messages/message_class.hpp"
 
 namespace vorlan {
-
-/// A bit string's value, where only zero, one and small counts matter: no error, however odd the text.
-constexpr std::size_t small_value(std::string_view bits) noexcept {
-  std::size_t value = 0;
-  for (const char bit : bits) value = (value << 1U) | (bit == '1' ? 1U : 0U);
-  return value;
-}
 
 /// Walks the rows. A side gives values and takes visits:
 ///   std::string_view value(std::size_t field, std::size_t index): of an earlier field, in the same record if repeated
@@ -75,13 +68,6 @@ void walk(const MessageClass& message, Side& side) {
   }
 }
 
-/// Where a field's bits stand in a received message. Whatever lies past the message's end is empty.
-struct Extent {
-  std::uint32_t offset = 0;
-  std::uint32_t width = 0;
-  bool present = true;  ///< false: the message says that it does not carry the field
-};
-
 /// Where every field of a received message stands: found in one pass, whatever is read afterwards.
 class Layout {
  public:
@@ -133,10 +119,5 @@ class Layout {
   std::vector<Place> places_;
   std::vector<Extent> extents_;
 };
-
-/// The part of a bit string that an extent covers, as far as the bit string goes.
-constexpr std::string_view slice(std::string_view bits, Extent extent) noexcept {
-  return extent.offset < bits.size() ? bits.substr(extent.offset, extent.width) : std::string_view{};
-}
 
 }  // namespace vorlan

@@ -43,7 +43,7 @@ SUCCEEDS = [
     ("encode SB_Ses_MsgSoftConfigurationComplete AfterTransactionId=0xABC", ["28 bits", "02 00 AB C0"]),
     (ASSIGN, ["176 bits", "UATI104", "UpperOldUATILength 169 0010 2"]),
     (ASSIGN + "SubnetIncluded=0 UATIColorCode=0xAB --sector=SECTOR_4", ["64 bits", "1010 1011"]),
-    ("decode SB_Ses_MsgUATIComplete 0x02 0x07", ["(past the end of the message)"]),
+    ("decode SB_Ses_MsgUATIComplete 0x02 0x07", ["(past the end)"]),
     ("decode SB_Ses_MsgUATIRequest 07:01", ["not the MessageID of SB_Ses_MsgUATIRequest"]),
     ("decode SB_App_MsgNak 02 00000100000400 00 NakType=1", ["FirstErased 33 00 0000 0000 0000 0000 0001 1"]),
 ]
@@ -124,7 +124,7 @@ SB_Con_MsgRouteUpdate, 112 bits
   ATTotalPilotTransmissionIncluded   84  1                              1
   ATTotalPilotTransmission           85  1100 1101                      -25.5 dBm
   ReferencePilotChannelIncluded      93  1                              1
-  ReferencePilotChannel              94  110 1111 0000 0000 0001        454657  (cut off by the end of the message)
+  ReferencePilotChannel              94  110 1111 0000 0000 0001        454657  (cut off by the end)
 """
 
 

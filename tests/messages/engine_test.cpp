@@ -126,7 +126,7 @@ TEST(Dissection, NamesFieldsAndUnits) {
   EXPECT_EQ(tree[1].first, 9U);
   EXPECT_EQ(tree[1].value, "session lost");
   EXPECT_EQ(tree[2].value, "1 octets");
-  EXPECT_EQ(tree[3].note, "past the end of the message");
+  EXPECT_EQ(tree[3].note, "past the end");
   const auto other = dissect(SB_Ses_MsgSessionClose::shared_class(), bits_of("07 00 00 FF"));
   EXPECT_EQ(other[0].note, "not the MessageID of SB_Ses_MsgSessionClose");
   EXPECT_EQ(other.back().name, "Trailing");

@@ -1,7 +1,7 @@
 // What messages of the enhanced multi-flow packet application (C.S0063-A) share.
 #pragma once
 
-#include "messages/meaning.hpp"
+#include "codec/meaning.hpp"
 
 namespace vorlan::emfpa {
 

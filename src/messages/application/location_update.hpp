@@ -1,7 +1,7 @@
 // Location Update Protocol messages (C.S0024-A 3.5) of the default packet application.
 #pragma once
 
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

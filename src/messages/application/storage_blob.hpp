@@ -1,7 +1,7 @@
 // Storage BLOB messages of the Location Update Protocol of the multi-flow packet application (C.S0024-A chapter 4).
 #pragma once
 
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "messages/meaning.hpp"
+#include "codec/meaning.hpp"
 
 namespace vorlan {
 

@@ -1,7 +1,7 @@
 // Idle State Protocol messages (C.S0024-A 8.4).
 #pragma once
 
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

@@ -1,8 +1,8 @@
 // Sync of the Initialization State Protocol (C.S0024-A 8.3.6.2.1).
 #pragma once
 
+#include "codec/meanings.hpp"
 #include "messages/connection/system_time.hpp"
-#include "messages/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

@@ -1,8 +1,8 @@
 // Route Update Protocol messages (C.S0024-A 8.7) besides RouteUpdate and TrafficChannelAssignment.
 #pragma once
 
+#include "codec/meanings.hpp"
 #include "messages/connection/channel.hpp"
-#include "messages/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

@@ -1,8 +1,8 @@
 // SectorParameters of the Overhead Messages Protocol (C.S0024-A 8.9.6.2.2).
 #pragma once
 
+#include "codec/meanings.hpp"
 #include "messages/connection/channel.hpp"
-#include "messages/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

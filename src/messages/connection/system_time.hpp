@@ -1,7 +1,7 @@
 // CDMA system time as people read it. It began on 1980-01-06 at 00:00:00 UTC and knows no leap seconds.
 #pragma once
 
-#include "messages/meaning.hpp"
+#include "codec/meaning.hpp"
 
 namespace vorlan {
 

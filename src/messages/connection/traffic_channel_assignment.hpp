@@ -1,7 +1,7 @@
 // TrafficChannelAssignment of the Route Update Protocol (C.S0024-A 8.7.6.2.2).
 #pragma once
 
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

@@ -1,7 +1,7 @@
 // Access Channel MAC Protocol messages (C.S0024-A 10.4 and, for the enhanced protocol, 10.5).
 #pragma once
 
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

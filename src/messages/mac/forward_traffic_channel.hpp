@@ -1,7 +1,7 @@
 // Forward Traffic Channel MAC Protocol messages (C.S0024-A 10.6): what the access terminal says of its fixed mode.
 #pragma once
 
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

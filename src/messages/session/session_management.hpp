@@ -1,7 +1,7 @@
 // Session Management Protocol messages (C.S0024-A 7.2) of the session layer.
 #pragma once
 
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 #include "messages/message_of.hpp"
 
 namespace vorlan {

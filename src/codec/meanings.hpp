@@ -1,7 +1,7 @@
 // Units and codes that messages of several protocols share (C.S0024-A, and C.S0057 for channels).
 #pragma once
 
-#include "messages/meaning.hpp"
+#include "codec/meaning.hpp"
 
 namespace vorlan {
 

@@ -1,9 +1,9 @@
-#include "messages/meaning.hpp"
+#include "codec/meaning.hpp"
 
 #include <algorithm>
 
 #include "automation/value.hpp"
-#include "messages/meanings.hpp"
+#include "codec/meanings.hpp"
 
 namespace vorlan {
 

@@ -1,11 +1,22 @@
-#include "messages/field_tree.hpp"
+#include "codec/field_tree.hpp"
 
 #include <algorithm>
 #include <vector>
 
+#include "codec/meanings.hpp"
+
 namespace vorlan {
 
 namespace {
+
+std::string_view bare(std::string_view name) { return name.starts_with("PR") ? name.substr(name.find('_') + 1) : name; }
+
+std::string plain_value(std::string_view bits) {
+  constexpr std::size_t kNumberBits = 31;
+  constexpr std::size_t kHexBits = 256;
+  if (bits.empty() || bits.size() > kHexBits) return {};
+  return bits.size() <= kNumberBits ? std::to_string(small_value(bits)) : value_text(kHex, bits);
+}
 
 constexpr std::size_t kBitsPerLine = 32;
 
@@ -34,6 +45,15 @@ void add_lines(std::span<const DissectedField> tree, std::size_t depth, std::vec
 }
 
 }  // namespace
+
+DissectedField dissected_leaf(std::string_view name, const Meaning* meaning, std::string_view whole, Extent extent) {
+  const std::string_view bits = slice(whole, extent);
+  DissectedField field{.name = std::string(bare(name)), .first = extent.offset + 1, .bits = std::string(bits)};
+  if (meaning != nullptr) field.value = value_text(*meaning, bits);
+  if (field.value.empty()) field.value = plain_value(bits);
+  if (bits.size() < extent.width) field.note = bits.empty() ? "past the end" : "cut off by the end";
+  return field;
+}
 
 std::string grouped_bits(std::string_view bits) {
   std::string text;

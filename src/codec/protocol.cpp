@@ -1,4 +1,4 @@
-#include "messages/protocol.hpp"
+#include "codec/protocol.hpp"
 
 namespace vorlan {
 
