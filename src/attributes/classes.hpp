@@ -1,4 +1,4 @@
-// The attribute classes.
+// The attribute classes, and those of their values.
 #pragma once
 
 #include <span>
@@ -8,5 +8,7 @@
 namespace vorlan {
 
 std::span<const ClassEntry> simple_attribute_classes() noexcept;
+std::span<const ClassEntry> complex_attribute_classes() noexcept;
+std::span<const ClassEntry> value_classes() noexcept;
 
 }  // namespace vorlan

@@ -1,20 +1,11 @@
 // The C++ face of a message class: a type of its own, with its members checked when it is compiled.
 #pragma once
 
-#include <algorithm>
-
 #include "automation/registry.hpp"
+#include "codec/member_name.hpp"
 #include "messages/message.hpp"
 
 namespace vorlan {
-
-/// A member's name as a template argument.
-template <std::size_t N>
-struct MemberName {
-  char text[N]{};
-  constexpr MemberName(const char (&name)[N]) { std::copy_n(name, N, text); }  // NOLINT: a name given as it is
-  [[nodiscard]] constexpr std::string_view view() const noexcept { return {text, N - 1}; }
-};
 
 /// The class made from a message's rows:
 ///   SB_Ses_MsgSessionClose m;

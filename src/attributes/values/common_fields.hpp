@@ -1,0 +1,24 @@
+// Rows that value records of several protocols share.
+#pragma once
+
+#include "attributes/values/value_of.hpp"
+#include "codec/meanings.hpp"
+
+namespace vorlan {
+
+inline constexpr RecordField kValueId{
+    .name = "PRstr_ValueId", .bits = 8, .summary = "ValueID, by which a response names the value that it accepts."};
+
+/// Fills the last octet up; only a received record has it to be read.
+inline constexpr RecordField kReserved{.name = "PRstr_Reserved",
+                                       .width = to_octet(),
+                                       .settable = false,
+                                       .summary = "The bits that fill the last octet up."};
+
+/// A row of fixed width.
+constexpr RecordField fixed(std::string_view name, std::uint16_t bits, std::string_view initial = {},
+                            const Meaning* meaning = nullptr, std::string_view summary = {}) {
+  return {.name = name, .bits = bits, .initial = initial, .meaning = meaning, .summary = summary};
+}
+
+}  // namespace vorlan

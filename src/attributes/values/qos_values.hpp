@@ -1,0 +1,178 @@
+// Value records of QoS reservations (C.S0024-A 4; the profile of type 1 is that of X.S0011-004).
+#pragma once
+
+#include "attributes/values/app_values.hpp"
+
+namespace vorlan {
+
+inline constexpr Code kProfileTypes[] = {{0, "none"}, {1, "attribute sets"}, {2, "FlowProfileIDs"}};
+inline constexpr Meaning kProfileType{.codes = kProfileTypes, .summary = "profile type"};
+
+inline constexpr RecordField kProfileTypeField =
+    fixed("PRstr_ProfileType", 8, {}, &kProfileType, "0: none, which ends the record; 1: attribute sets.");
+inline constexpr RecordField kProfileLengthField{.name = "PRstr_ProfileLength",
+                                                 .bits = 8,
+                                                 .only = if_not_zero("PRstr_ProfileType"),
+                                                 .meaning = &kOctets,
+                                                 .summary = "Length of the profile."};
+inline constexpr RecordField kProfileValueField{.name = "PRstr_ProfileValue",
+                                                .width = octets_of("PRstr_ProfileLength"),
+                                                .only = if_not_zero("PRstr_ProfileType"),
+                                                .meaning = &kHex,
+                                                .summary = "The profile."};
+
+// --- Requests
+
+/// The profile of type 1: the priority and up to seven attribute sets, each filled up to an octet.
+inline constexpr RecordField kQoSProfileFields[] = {
+    {.name = "PRstr_FlowPriority", .bits = 4, .summary = "Priority of the flow."},
+    {.name = "PRstr_QoSAttribSetCount", .bits = 3, .summary = "The number of attribute sets."},
+    {.name = "PRstr_QoSAttribSetLength", .bits = 4, .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "PRstr_QoSAttribSetID", .bits = 7, .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "PRstr_QoSAttribSetVerbose", .bits = 1, .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "PRstr_QoSAttribSetProfileID",
+     .bits = 16,
+     .only = if_zero("PRstr_QoSAttribSetVerbose"),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "TrafficClass",
+     .bits = 3,
+     .only = if_one("PRstr_QoSAttribSetVerbose"),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "PeakRate",
+     .bits = 16,
+     .only = if_one("PRstr_QoSAttribSetVerbose"),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "BucketSize",
+     .bits = 16,
+     .only = if_one("PRstr_QoSAttribSetVerbose"),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "TokenRate",
+     .bits = 16,
+     .only = if_one("PRstr_QoSAttribSetVerbose"),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "MaxLatency",
+     .bits = 8,
+     .only = if_one("PRstr_QoSAttribSetVerbose"),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "MaxIPPacketLossRate",
+     .bits = 8,
+     .only = if_one("PRstr_QoSAttribSetVerbose"),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "DelayVarSensitive",
+     .bits = 1,
+     .only = if_one("PRstr_QoSAttribSetVerbose"),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
+    {.name = "PRstr_ReserveBits",
+     .width = to_octet(),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1),
+     .settable = false},
+};
+
+/// Takes the profile apart into the properties of the attribute sets. Error 1 if the profile is not of type 1, or ends
+/// before its last set.
+void decode_profile_type_1(Record& record);
+/// Makes ProfileType, ProfileLength and ProfileValue of these properties.
+void set_profile(Record& record);
+
+inline constexpr ValueOperation kQoSRequestOperations[] = {
+    {"Decode_ProfileType1", decode_profile_type_1, "Takes the profile apart into priority and attribute sets."},
+    {"ProfileSet", set_profile, "Makes the profile of priority and attribute sets."},
+};
+
+/// Of the properties that Decode_ProfileType1 and ProfileSet go between: not sent themselves.
+inline constexpr std::string_view kOfProfile = "SB_App_ValReservationKKQoSRequestRev";
+
+inline constexpr RecordField kQoSRequestFields[] = {
+    kValueId,
+    kProfileTypeField,
+    kProfileLengthField,
+    kProfileValueField,
+    {.name = "PRstr_FlowPriority", .bits = 4, .sent = false, .source = kOfProfile, .summary = "Priority of the flow."},
+    {.name = "PRstr_QoSAttribSetCount",
+     .bits = 3,
+     .sent = false,
+     .source = kOfProfile,
+     .summary = "The number of attribute sets."},
+    {.name = "PRstr_ReserveBits",
+     .width = to_octet(),
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1),
+     .settable = false,
+     .sent = false,
+     .summary = "The bits that fill a set's last octet up."},
+    {.name = "PRstr_QoSAttribSetLength",
+     .bits = 4,
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1),
+     .sent = false,
+     .source = kOfProfile,
+     .meaning = &kOctets,
+     .summary = "Length of a set."},
+    {.name = "PRstr_QoSAttribSetID",
+     .bits = 7,
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1),
+     .sent = false,
+     .source = kOfProfile,
+     .summary = "By which a response names the set that is granted; from 1."},
+    {.name = "PRstr_QoSAttribSetVerbose",
+     .bits = 1,
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1),
+     .sent = false,
+     .source = kOfProfile,
+     .summary = "\"0\" for a set that is a FlowProfileID."},
+    {.name = "PRstr_QoSAttribSetProfileID",
+     .bits = 16,
+     .repeat = list_by("PRstr_QoSAttribSetCount", 1),
+     .sent = false,
+     .source = kOfProfile,
+     .meaning = &kHex,
+     .summary = "FlowProfileID."},
+};
+inline constexpr ValueSpec kValReservationKKQoSReqFwd{.name = "SB_App_ValReservationKKQoSReqFwd",
+                                                      .summary = "A value of ReservationKKQoSRequestFwd",
+                                                      .clause = "4",
+                                                      .fields = kQoSRequestFields,
+                                                      .source = "SB_App_ValReservationKKQoSRequestFwd",
+                                                      .tells_length = true,
+                                                      .operations = kQoSRequestOperations};
+using SB_App_ValReservationKKQoSReqFwd = ValueOf<kValReservationKKQoSReqFwd>;
+inline constexpr ValueSpec kValReservationKKQoSReqRev{.name = "SB_App_ValReservationKKQoSReqRev",
+                                                      .summary = "A value of ReservationKKQoSRequestRev",
+                                                      .clause = "4",
+                                                      .fields = kQoSRequestFields,
+                                                      .source = "SB_App_ValReservationKKQoSRequestRev",
+                                                      .tells_length = true,
+                                                      .operations = kQoSRequestOperations};
+using SB_App_ValReservationKKQoSReqRev = ValueOf<kValReservationKKQoSReqRev>;
+
+// --- Responses
+
+/// The granted set, in the first seven bits of the profile.
+std::string_view granted_set(const Record& record, std::size_t index);
+/// Makes a profile of type 1 that grants a set.
+void let_granted_set(Record& record, std::size_t index, std::string_view bits);
+
+template <const std::string_view& Source>
+inline constexpr RecordField kQoSResponseFields[] = {
+    kValueId,
+    kProfileTypeField,
+    kProfileLengthField,
+    kProfileValueField,
+    {.name = "PRstr_QoSAttribSetID",
+     .bits = 7,
+     .view = granted_set,
+     .let = let_granted_set,
+     .source = Source,
+     .summary = "The granted attribute set, 0: none. Setting it makes the profile."},
+};
+inline constexpr std::string_view kResponseFwd = "SB_App_ValReservationKKQoSResponseFwd";
+inline constexpr std::string_view kResponseRev = "SB_App_ValReservationKKQoSResponseRev";
+inline constexpr ValueSpec kValReservationKKQoSRespFwd =
+    app_value("SB_App_ValReservationKKQoSRespFwd", "A value of ReservationKKQoSResponseFwd",
+              kQoSResponseFields<kResponseFwd>, kResponseFwd);
+using SB_App_ValReservationKKQoSRespFwd = ValueOf<kValReservationKKQoSRespFwd>;
+// Its record's fields answer with the name of the forward class.
+inline constexpr ValueSpec kValReservationKKQoSRespRev =
+    app_value("SB_App_ValReservationKKQoSRespRev", "A value of ReservationKKQoSResponseRev",
+              kQoSResponseFields<kResponseRev>, kResponseFwd);
+using SB_App_ValReservationKKQoSRespRev = ValueOf<kValReservationKKQoSRespRev>;
+
+}  // namespace vorlan

@@ -1,0 +1,204 @@
+#include "attributes/values/record_class.hpp"
+
+#include <algorithm>
+#include <tuple>
+
+namespace vorlan {
+
+namespace {
+
+std::int16_t index_of(std::span<const RecordField> rows, std::string_view name) {
+  return name.empty() ? RecordClass::kNone : static_cast<std::int16_t>(find_field(rows, name));
+}
+
+std::string_view bare(std::string_view name) { return name.starts_with("PR") ? name.substr(name.find('_') + 1) : name; }
+
+/// The order in which a walk comes by.
+auto order(const RecordClass& record, std::size_t field, At at) {
+  return std::tuple<std::size_t, std::size_t, std::size_t, std::size_t>(record.field(field).group, at.index, field,
+                                                                        at.inner);
+}
+
+std::string width_text(const RecordField& row) {
+  switch (row.width.kind) {
+    case RecordWidth::Kind::Fixed: return std::to_string(row.bits);
+    case RecordWidth::Kind::OctetsOf: return "8 x " + std::string(bare(row.width.field));
+    case RecordWidth::Kind::BitsOf: return std::string(bare(row.width.field));
+    case RecordWidth::Kind::ToOctet: return "to the octet";
+  }
+  return {};
+}
+
+std::string condition_text(const RecordField& row) {
+  std::string text;
+  const std::string field(bare(row.only.field));
+  switch (row.only.kind) {
+    case OnlyIf::Kind::Always: break;
+    case OnlyIf::Kind::One: text = "if " + field + " = 1"; break;
+    case OnlyIf::Kind::Zero: text = "if " + field + " = 0"; break;
+    case OnlyIf::Kind::NotZero: text = "if " + field + " is not 0"; break;
+  }
+  if (!is_list(row)) return text;
+  if (!text.empty()) text += ", ";
+  text.append(bare(row.repeat.count)).append(" times");
+  if (is_table(row)) text.append(", each ").append(bare(row.repeat.inner)).append(" times");
+  return text;
+}
+
+}  // namespace
+
+RecordClass::RecordClass(std::span<const RecordField> rows, const Texts& texts) : texts_(texts), fields_(rows.size()) {
+  bool fixed = true;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const RecordField& row = rows[i];
+    Field& field = fields_[i];
+    field.spec = &row;
+    field.width = index_of(rows, row.width.field);
+    field.only = index_of(rows, row.only.field);
+    field.inner = index_of(rows, row.repeat.inner);
+    for (const std::string_view count : {row.repeat.count, row.repeat.inner}) {
+      if (!count.empty()) fields_[find_field(rows, count)].counts = true;
+    }
+    field.initial = row.initial.empty() ? std::string(row.bits, '0') : std::string(row.initial);
+    field.slot = static_cast<std::uint16_t>(is_list(row) ? lists_++ : singles_++);
+    const bool joins = i > 0 && (is_list(row) ? row.repeat.group != 0 && row.repeat.group == rows[i - 1].repeat.group
+                                              : !is_list(rows[i - 1]));
+    if (joins) {
+      groups_.back().end = static_cast<std::uint16_t>(i + 1);
+    } else {
+      groups_.push_back(
+          {static_cast<std::uint16_t>(i), static_cast<std::uint16_t>(i + 1), index_of(rows, row.repeat.count)});
+    }
+    field.group = static_cast<std::uint16_t>(groups_.size() - 1);
+    if (!is_on_air(row)) continue;
+    if (row.width.kind == RecordWidth::Kind::ToOctet) continue;
+    fixed =
+        fixed && row.width.kind == RecordWidth::Kind::Fixed && row.only.kind == OnlyIf::Kind::Always && !is_list(row);
+    fixed_bits_ += row.bits;
+  }
+  fixed_bits_ = fixed ? (fixed_bits_ + 7) / 8 * 8 : 0;
+}
+
+std::size_t RecordClass::find(std::string_view name) const noexcept {
+  std::size_t index = 0;
+  while (index < fields_.size() && fields_[index].spec->name != name) ++index;
+  return index;
+}
+
+std::size_t RecordClass::length_at(std::string_view bits) const {
+  if (fixed_bits_ != 0) return fixed_bits_ <= bits.size() ? fixed_bits_ : 0;
+  const RecordLayout layout(*this, bits);
+  const std::size_t length = (layout.end() + 7) / 8 * 8;
+  return layout.is_whole() && length <= bits.size() ? length : 0;
+}
+
+std::string RecordClass::wrong_length(std::size_t field, At at, std::size_t width) const {
+  const RecordField& row = *fields_[field].spec;
+  if (!row.wrong_length.empty()) return std::string(row.wrong_length);
+  const bool of_element = !row.repeat.elements.empty();
+  const std::string whole = of_element ? element_name(row.repeat.elements, at) : std::string(row.name);
+  const std::string name(bare(whole));
+  const std::string bits = std::to_string(width);
+  switch (texts_.family) {
+    case RecordTexts::Named: return "Length of <" + name + "> field should be " + bits + " bits.";
+    case RecordTexts::OfArgument:
+      return "The length of argument passed should be equal to the length of " + name + " (length=" + bits + ").  ";
+    case RecordTexts::WithError: return "Error: Length of " + name + " should be " + bits + " bits.";
+  }
+  return {};
+}
+
+std::string RecordClass::source(std::size_t field, At at) const {
+  const RecordField& row = *fields_[field].spec;
+  std::string text(row.source.empty() ? texts_.source : row.source);
+  text += '.';
+  if (!row.source_member.empty()) return text.append(row.source_member);
+  if (!row.repeat.elements.empty()) return text + element_name(row.repeat.elements, at);
+  if (!row.repeat.accessors.empty()) return text.append("Set_").append(row.repeat.accessors);
+  return text.append(row.name);
+}
+
+std::vector<FieldInfo> RecordClass::list_fields() const {
+  std::vector<FieldInfo> list;
+  for (const Field& field : fields_) {
+    const RecordField& row = *field.spec;
+    if (!is_on_air(row)) continue;
+    FieldInfo info{.name = row.name, .width = width_text(row), .condition = condition_text(row)};
+    info.origin = row.settable ? "set" : "reserved";
+    if (row.settable && row.bits != 0) info.initial = field.initial;
+    if (row.meaning != nullptr) info.unit = row.meaning->summary.empty() ? row.meaning->unit : row.meaning->summary;
+    list.push_back(std::move(info));
+  }
+  return list;
+}
+
+void RecordClass::list_errors(std::vector<ErrorInfo>& errors) const {
+  for (std::size_t i = 0; i < fields_.size(); ++i) {
+    const RecordField& row = *fields_[i].spec;
+    const std::string_view not_received = row.not_received.empty() ? texts_.not_received : row.not_received;
+    if (row.settable) {
+      const bool fixed = row.width.kind == RecordWidth::Kind::Fixed;
+      errors.push_back(
+          {source(i, {}), fixed ? wrong_length(i, {}, row.bits) : wrong_length(i, {}, 0), "let of another width"});
+    } else if (is_property(row) && !not_received.empty()) {
+      errors.push_back({source(i, {}), std::string(not_received), "get before a record is received"});
+    }
+    if (!row.absent.empty()) {
+      errors.push_back({source(i, {}), std::string(row.absent), "get of what the received record does not carry"});
+    }
+    if (!row.not_settable.empty()) {
+      errors.push_back({source(i, {}), std::string(row.not_settable), "let or get while the flag is 0"});
+    }
+  }
+}
+
+std::string element_name(std::string_view pattern, At at) {
+  std::string name;
+  std::size_t number = at.index;
+  while (!pattern.empty()) {
+    const std::size_t start = std::min(pattern.find('#'), pattern.size());
+    name += pattern.substr(0, start);
+    pattern.remove_prefix(start);
+    const std::size_t run = std::min(pattern.find_first_not_of('#'), pattern.size());
+    if (run == 0) break;
+    const std::string digits = std::to_string(number);
+    name.append(run > digits.size() ? run - digits.size() : 0, '0').append(digits);
+    pattern.remove_prefix(run);
+    number = at.inner;
+  }
+  return name;
+}
+
+RecordLayout::RecordLayout(const RecordClass& record, std::string_view bits) : record_(&record), bits_(bits) {
+  walk(record, *this);
+}
+
+bool RecordLayout::done() noexcept {
+  if (position_ < bits_.size()) return false;
+  whole_ = false;
+  return true;
+}
+
+void RecordLayout::visit(std::size_t field, At at, std::size_t width) {
+  visits_.push_back({static_cast<std::uint16_t>(field),
+                     at,
+                     {static_cast<std::uint32_t>(position_), static_cast<std::uint32_t>(width), true}});
+  position_ += width;
+  const bool fills_up = record_->field(field).spec->width.kind == RecordWidth::Kind::ToOctet;
+  if (position_ > bits_.size() && !fills_up) whole_ = false;
+}
+
+const Extent* RecordLayout::find(std::size_t field, At at) const noexcept {
+  const auto wanted = order(*record_, field, at);
+  const auto found = std::lower_bound(visits_.begin(), visits_.end(), wanted, [&](const Visit& visit, const auto& key) {
+    return order(*record_, visit.field, visit.at) < key;
+  });
+  return found != visits_.end() && order(*record_, found->field, found->at) == wanted ? &found->extent : nullptr;
+}
+
+std::string_view RecordLayout::value(std::size_t field, std::size_t index) const noexcept {
+  const Extent* extent = find(field, {is_list(*record_->field(field).spec) ? index : 0, 0});
+  return extent != nullptr ? slice(bits_, *extent) : std::string_view{};
+}
+
+}  // namespace vorlan
