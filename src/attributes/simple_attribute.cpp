@@ -18,7 +18,7 @@ std::size_t rounded_octets(std::size_t bits) {
 }  // namespace
 
 SimpleAttribute::SimpleAttribute(const SimpleAttributeClass& attribute_class)
-    : ClassObject(attribute_class.info()),
+    : Attribute(attribute_class.info()),
       class_(attribute_class),
       length_(attribute_class.length()),
       id_(attribute_class.id()),
@@ -37,14 +37,21 @@ std::string_view SimpleAttribute::slice(std::size_t from, std::size_t bits) cons
   return std::string_view(record_).substr(std::min(from, record_.size()), bits);
 }
 
-std::string_view SimpleAttribute::stored_id(bool sixteen_bits) const noexcept {
+std::string_view SimpleAttribute::id_to_build(bool sixteen_bits) const noexcept {
   return sixteen_bits && class_.spec().wide_id != 0 ? class_.wide_id().view() : id_.view();
+}
+
+bool SimpleAttribute::has_id(std::string_view id) const noexcept {
+  const std::string_view own = class_.id().view();
+  const bool per_flow = class_.spec().id_settable && own.size() == 16;
+  const bool is_wide = class_.spec().wide_id != 0 && id == class_.wide_id().view();
+  return id == own || is_wide || (per_flow && id.size() == 16 && id.starts_with(own.substr(0, 8)));
 }
 
 std::string_view SimpleAttribute::length() const noexcept { return received_ ? slice(0, kLengthBits) : length_.view(); }
 
 std::string_view SimpleAttribute::id(bool sixteen_bits) const noexcept {
-  const std::string_view stored = stored_id(sixteen_bits);
+  const std::string_view stored = id_to_build(sixteen_bits);
   return received_ ? slice(kLengthBits, stored.size()) : stored;
 }
 
@@ -77,7 +84,7 @@ void SimpleAttribute::let_value(std::string_view bits) {
 std::string SimpleAttribute::build(bool sixteen_bits) const {
   const std::string_view value = value_.view();
   if (class_.spec().up_to && value.empty()) return {};
-  const std::string_view id = stored_id(sixteen_bits);
+  const std::string_view id = id_to_build(sixteen_bits);
   // A value of variable width may leave a part of an octet.
   const std::size_t bits = id.size() + value.size();
   const std::size_t octets = bits % 8 == 0 ? bits / 8 : rounded_octets(bits);

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "attributes/attribute.hpp"
 #include "attributes/simple_attribute_class.hpp"
 
 namespace vorlan {
@@ -11,7 +12,7 @@ namespace vorlan {
 /// One attribute with a single value. To build: set the value (and the AttributeID, where it can be set), build().
 /// To take apart: receive() a record, get its parts. Every setter checks the width and raises error 1 with the class's
 /// own text otherwise, and leaves the object as it was.
-class SimpleAttribute : public ClassObject {
+class SimpleAttribute : public Attribute {
  public:
   explicit SimpleAttribute(const SimpleAttributeClass& attribute_class);
 
@@ -19,7 +20,7 @@ class SimpleAttribute : public ClassObject {
 
   /// PRstr_Attribute: takes a received record. From now on, and for good, length(), id() and value() read from it, by
   /// position alone: what the record is too short for is cut off. build() never does.
-  void receive(std::string_view record);
+  void receive(std::string_view record) override;
   [[nodiscard]] bool received() const noexcept { return received_; }
   [[nodiscard]] const std::string& record() const noexcept { return record_; }
 
@@ -36,13 +37,17 @@ class SimpleAttribute : public ClassObject {
   /// Length, AttributeID and value, as set; the empty text for a value of variable width that is empty.
   [[nodiscard]] std::string build(bool sixteen_bits = false) const;
 
+  [[nodiscard]] std::string_view stored_id() const noexcept override { return id_.view(); }
+  [[nodiscard]] bool has_id(std::string_view id) const noexcept override;
+  [[nodiscard]] std::vector<DissectedField> dissect(std::string_view whole, Extent record) const override;
+
  protected:
   Value invoke_member(int member, Access access, std::span<Value> arguments) override;
 
  private:
   [[nodiscard]] std::string_view get(AttributeMember member, std::span<const Value> arguments) const;
   void let(AttributeMember member, std::string_view bits);
-  [[nodiscard]] std::string_view stored_id(bool sixteen_bits) const noexcept;
+  [[nodiscard]] std::string_view id_to_build(bool sixteen_bits) const noexcept;
   [[nodiscard]] std::string_view slice(std::size_t from, std::size_t bits) const noexcept;
   [[noreturn]] void refuse(AttributeMember member) const;
 

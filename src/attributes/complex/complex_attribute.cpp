@@ -20,7 +20,7 @@ std::string octets_text(std::size_t bits) {
 }  // namespace
 
 ComplexAttribute::ComplexAttribute(const ComplexAttributeClass& attribute_class)
-    : ClassObject(attribute_class.info()),
+    : Attribute(attribute_class.info()),
       class_(attribute_class),
       length_(attribute_class.length()),
       id_(attribute_class.id()),
@@ -73,6 +73,13 @@ std::string_view ComplexAttribute::length() const noexcept {
 
 std::string_view ComplexAttribute::id() const noexcept {
   return received_ ? std::string_view(record_).substr(kLengthBits, class_.spec().id_bits) : id_;
+}
+
+bool ComplexAttribute::has_id(std::string_view id) const noexcept {
+  constexpr std::size_t kHighOctet = 8;
+  const std::string_view own = class_.id();
+  return id == own ||
+         (class_.spec().id_settable && id.size() == own.size() && id.starts_with(own.substr(0, kHighOctet)));
 }
 
 void ComplexAttribute::let_length(std::string_view bits) {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "attributes/attribute.hpp"
 #include "attributes/complex/complex_attribute_spec.hpp"
 
 namespace vorlan {
@@ -52,14 +53,14 @@ class ComplexAttributeClass {
 /// One attribute. To build: make value records, build() with them one after another in the order of preference. To take
 /// apart: receive() a record, then value(i) for each of count(). Errors are number 1 with the class's own texts, and
 /// leave the object as it was.
-class ComplexAttribute : public ClassObject {
+class ComplexAttribute : public Attribute {
  public:
   explicit ComplexAttribute(const ComplexAttributeClass& attribute_class);
 
   [[nodiscard]] const ComplexAttributeClass& attribute_class() const noexcept { return class_; }
 
   /// Takes a received record, Length and AttributeID included. Its value part must be a whole number of value records.
-  void receive(std::string_view record);
+  void receive(std::string_view record) override;
   [[nodiscard]] bool received() const noexcept { return received_; }
   [[nodiscard]] const std::string& record() const noexcept { return record_; }
   /// The number of received value records. Error 1 before a record is received.
@@ -76,6 +77,10 @@ class ComplexAttribute : public ClassObject {
 
   /// Length, the stored AttributeID, and the value records; the fields as stored in classes that have fields.
   [[nodiscard]] std::string build(std::string_view value_records = {}) const;
+
+  [[nodiscard]] std::string_view stored_id() const noexcept override { return id_; }
+  [[nodiscard]] bool has_id(std::string_view id) const noexcept override;
+  [[nodiscard]] std::vector<DissectedField> dissect(std::string_view whole, Extent record) const override;
 
   [[nodiscard]] const Record& fields() const noexcept { return fields_; }
   [[nodiscard]] Record& fields() noexcept { return fields_; }

@@ -13,7 +13,7 @@ constexpr ValueSpec app_value(std::string_view name, std::string_view summary, s
 // --- What a terminal supports
 
 inline constexpr RecordField kValMaxRLPFlowsFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_MaxNumRLPFlowsFwd", 8, {}, nullptr, "Forward flows."),
     fixed("PRstr_MaxNumRLPFlowsRev", 8, {}, nullptr, "Reverse flows."),
     fixed("PRstr_MaxActivatedRLPFlowsFwd", 8, {}, nullptr, "Forward flows activated at a time."),
@@ -24,7 +24,7 @@ inline constexpr ValueSpec kValMaxRLPFlows =
 using SB_App_ValMaxRLPFlows = ValueOf<kValMaxRLPFlows>;
 
 inline constexpr RecordField kValMaxLinkFlowsFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_MaxNumLinkFlowsFwd", 8, {}, nullptr, "Forward flows."),
     fixed("PRstr_MaxNumLinkFlowsRev", 8, {}, nullptr, "Reverse flows."),
     fixed("PRstr_MaxActivatedLinkFlowsFwd", 8, {}, nullptr, "Forward flows activated at a time."),
@@ -35,7 +35,7 @@ inline constexpr ValueSpec kValMaxLinkFlows =
 using SB_App_ValMaxLinkFlows = ValueOf<kValMaxLinkFlows>;
 
 inline constexpr RecordField kValMaxReservationsFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_MaxNumReservationsFwd", 8, {}, nullptr, "Forward reservations."),
     fixed("PRstr_MaxNumReservationsRev", 8, {}, nullptr, "Reverse reservations."),
     fixed("PRstr_MaxNumOpenReservationsFwd", 8, {}, nullptr, "Forward reservations open at a time."),
@@ -46,7 +46,7 @@ inline constexpr ValueSpec kValMaxReservations =
 using SB_App_ValMaxReservations = ValueOf<kValMaxReservations>;
 
 inline constexpr RecordField kValSupportedHigherLayerProFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_ProtocolCount", 8, {}, nullptr, "The number of protocols."),
     {.name = "PRstr_ProtocolIdentifier",
      .bits = 8,
@@ -59,7 +59,7 @@ inline constexpr ValueSpec kValSupportedHigherLayerPro =
 using SB_App_ValSupportedHigherLayerPro = ValueOf<kValSupportedHigherLayerPro>;
 
 inline constexpr RecordField kSupportedQoSProfilesFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_QoSProfileCount", 8, {}, nullptr, "The number of profiles."),
     {.name = "PRstr_ProfileType",
      .bits = 8,
@@ -88,7 +88,7 @@ using SB_App_ValATSupportedQoSProfiles = ValueOf<kValATSupportedQoSProfiles>;
 
 template <const std::string_view& Active>
 inline constexpr RecordField kFlowNNIdentificationFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_Active", 8, Active, nullptr, "1 if the flow is active."),
     {.name = "PRstr_SequenceLength",
      .bits = 8,
@@ -126,7 +126,7 @@ using SB_App_ValFlowNNIdentificationRev = ValueOf<kValFlowNNIdentificationRev>;
 inline constexpr Meaning kMilliseconds{.unit = "ms"};
 
 inline constexpr RecordField kFlowNNTimersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_AbortTimer", 16, "0000000111110100", &kMilliseconds, "Time after which a gap is given up."),
     fixed("PRstr_FlushTimer", 16, "0000000100101100", &kMilliseconds, "Time after which the last octets are repeated."),
 };
@@ -142,7 +142,7 @@ inline constexpr ValueSpec kValFlowNNTimersRev{.name = "SB_App_ValFlowNNTimersRe
 using SB_App_ValFlowNNTimersRev = ValueOf<kValFlowNNTimersRev>;
 
 inline constexpr RecordField kFlowNNReservationFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_ReservationCount", 8, {}, nullptr, "The number of reservations."),
     {.name = "PRstr_ReservationLabel",
      .bits = 8,
@@ -163,7 +163,7 @@ std::string_view protocol_parameters(const Record& record, std::size_t index);
 void let_protocol_parameters(Record& record, std::size_t index, std::string_view bits);
 
 inline constexpr RecordField kProtocolParametersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_ProtocolID", 8, {}, nullptr, "The protocol."),
     fixed("PRstr_ProtocolParametersLength", 8, {}, &kOctets, "Length of its parameters."),
     {.name = "PRstr_ProtocolParameters",
@@ -195,7 +195,7 @@ inline constexpr ValueSpec kValFlowNNRutPrtclParmRev =
 using SB_App_ValFlowNNRutPrtclParmRev = ValueOf<kValFlowNNRutPrtclParmRev>;
 
 inline constexpr RecordField kSupportedProtocolParametersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_ProtocolSupported", 8, {}, nullptr, "1 if the protocol is supported."),
     fixed("PRstr_SupportedProtocolParametersValuesLength", 8, {}, &kOctets, "Length of the parameters."),
     {.name = "PRstr_SupportedProtocolParametersValues",

@@ -6,11 +6,11 @@
 
 namespace vorlan {
 
-inline constexpr RecordField kValueId{
+inline constexpr RecordField kValueIdField{
     .name = "PRstr_ValueId", .bits = 8, .summary = "ValueID, by which a response names the value that it accepts."};
 
 /// Fills the last octet up; only a received record has it to be read.
-inline constexpr RecordField kReserved{.name = "PRstr_Reserved",
+inline constexpr RecordField kReservedField{.name = "PRstr_Reserved",
                                        .width = to_octet(),
                                        .settable = false,
                                        .summary = "The bits that fill the last octet up."};

@@ -10,14 +10,14 @@ namespace vorlan {
 inline constexpr std::string_view kNoReceivedCycle = "ValStr has not yet been set.";
 
 inline constexpr RecordField kValPrefCtrlChannelCycleFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_PrefCtrlChannelCycleEnabled", 1, {}, nullptr, "\"1\" if the record carries a cycle."),
     {.name = "PRstr_PrefCtrlChannelCycle",
      .bits = 15,
      .only = if_one("PRstr_PrefCtrlChannelCycleEnabled"),
      .absent = "<PrefCtrlChannelCycle> field is not available in this ValStr.",
      .summary = "The control channel cycle in which the terminal wakes, modulo its period."},
-    kReserved,
+    kReservedField,
 };
 inline constexpr ValueSpec kValPrefCtrlChannelCycle{.name = "SB_Con_ValPrefCtrlChannelCycle",
                                                     .summary = "A value of PreferredControlChannelCycle",
@@ -37,13 +37,13 @@ inline constexpr ValueSpec kValProtocolType{.name = "SB_Ses_ValProtocolType",
 using SB_Ses_ValProtocolType = ValueOf<kValProtocolType>;
 
 inline constexpr RecordField kValSlottedModeFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_SlotCycle1", 5, "01001", nullptr, "The first sleep period, by table."),
     fixed("PRstr_SlotCycle2", 5, "01001", nullptr, "The second sleep period, by table."),
     fixed("PRstr_SlotCycle3", 5, "01001", nullptr, "The third sleep period, by table."),
     fixed("PRstr_WakeCount1", 4, {}, nullptr, "Wakings with the first period."),
     fixed("PRstr_WakeCount2", 4, {}, nullptr, "Wakings with the second period."),
-    kReserved,
+    kReservedField,
 };
 inline constexpr ValueSpec kValSlottedMode{.name = "SB_Con_ValSlottedMode",
                                            .summary = "A value of SlottedMode",
@@ -52,7 +52,7 @@ inline constexpr ValueSpec kValSlottedMode{.name = "SB_Con_ValSlottedMode",
 using SB_Con_ValSlottedMode = ValueOf<kValSlottedMode>;
 
 inline constexpr RecordField kValPagingMaskFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_MaskCount", 8, {}, nullptr, "The number of masks."),
     {.name = "PRstr_MaskPurpose", .bits = 8, .repeat = list_by("PRstr_MaskCount", 1), .summary = "What a mask is for."},
     {.name = "PRstr_PreMaskDuration",
@@ -81,7 +81,7 @@ using SB_Con_ValPagingMask = ValueOf<kValPagingMask>;
 // --- Route Update
 
 inline constexpr RecordField kValSearchParametersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_PilotIncrement", 4, "0100", &kPilotPN, "Pilot PN offsets are multiples of it."),
     fixed("PRstr_SearchWindowActive", 4, "1000", &kSearchWindowSize),
     fixed("PRstr_SearchWindowNeighbor", 4, "1010", &kSearchWindowSize),
@@ -103,7 +103,7 @@ struct SetManagementTexts {
 
 template <const SetManagementTexts& Texts>
 inline constexpr RecordField kSetManagementFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_PilotAdd", 6, "001110", &kMinusHalfDb, "A pilot at least as strong joins the candidates."),
     fixed("PRstr_PilotCompare", 6, "000101", nullptr, "0.5 dB above the active pilots that a candidate must be."),
     fixed("PRstr_PilotDrop", 6, "010010", &kMinusHalfDb, "A pilot that is weaker starts its drop timer."),
@@ -133,7 +133,7 @@ inline constexpr RecordField kSetManagementFields[] = {
      .meaning = &kSignedHalfDb,
      .summary = "Intercept for dropping."},
     fixed("PRstr_NeighborMaxAge", 4, {}, nullptr, "Age at which a neighbour is forgotten."),
-    kReserved,
+    kReservedField,
 };
 
 inline constexpr SetManagementTexts kSameChannelTexts{
@@ -171,7 +171,7 @@ inline constexpr ValueSpec kValSetMgmDiffChnlParameters{.name = "SB_Con_ValSetMg
 using SB_Con_ValSetMgmDiffChnlParameters = ValueOf<kValSetMgmDiffChnlParameters>;
 
 inline constexpr RecordField kValSuppCDMAChannelsFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_BandClassCount", 8, {}, nullptr, "The number of band classes."),
     {.name = "PRstr_BandClass", .bits = 5, .repeat = list_by("PRstr_BandClassCount", 1), .summary = "A band class."},
     {.name = "PRstr_BandSubClassCount",

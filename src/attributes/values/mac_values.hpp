@@ -9,11 +9,11 @@ namespace vorlan {
 // --- Access channel
 
 inline constexpr RecordField kValInitialConfigurationFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_ProbeSequenceMax", 4, "0011", nullptr, "Probe sequences of one attempt."),
     fixed("PRstr_ProbeBackoff", 4, "0100", nullptr, "Backoff between probes, in access channel cycles."),
     fixed("PRstr_ProbeSequenceBackoff", 4, "1000", nullptr, "Backoff between sequences, in access channel cycles."),
-    kReserved,
+    kReservedField,
 };
 inline constexpr ValueSpec kValInitialConfiguration{.name = "SB_Mac_ValInitialConfiguration",
                                                     .summary = "A value of the access channel's InitialConfiguration",
@@ -25,7 +25,7 @@ inline constexpr Code kRPCSteps[] = {{0, "0.5 dB"}, {1, "1 dB"}};
 inline constexpr Meaning kRPCStep{.codes = kRPCSteps, .summary = "0.5 or 1 dB"};
 
 inline constexpr RecordField kValPowerParametersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_DataOffsetNom", 4, {}, &kSignedHalfDb, "Offset of the data channel from the pilot."),
     fixed("PRstr_DataOffset9k6", 4, {}, nullptr, "0.25 dB, two's complement, at 9.6 kbit/s."),
     fixed("PRstr_DataOffset19k2", 4, {}, nullptr, "0.25 dB, two's complement, at 19.2 kbit/s."),
@@ -48,7 +48,7 @@ using SB_Mac_ValPowerParameters = ValueOf<kValPowerParameters>;
 // --- Reverse traffic channel
 
 inline constexpr RecordField kValRTCPowerParametersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_DataOffsetNom", 4, {}, &kSignedHalfDb, "Offset of the data channel from the pilot."),
     fixed("PRstr_DataOffset9k6", 4, {}, nullptr, "0.25 dB, two's complement, at 9.6 kbit/s."),
     fixed("PRstr_DataOffset19k2", 4, {}, nullptr, "0.25 dB, two's complement, at 19.2 kbit/s."),
@@ -68,7 +68,7 @@ using SB_Mac_ValRTCPowerParameters = ValueOf<kValRTCPowerParameters>;
 inline constexpr Meaning kProbability{.scale = 1.0 / 255, .summary = "1/255"};
 
 inline constexpr RecordField kValRateParametersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_Transition009k6_019k2", 8, "00110000", &kProbability, "Probability of going up from 9.6 kbit/s."),
     fixed("PRstr_Transition019k2_038k4", 8, "00010000", &kProbability, "Probability of going up from 19.2 kbit/s."),
     fixed("PRstr_Transition038k4_076k8", 8, "00001000", &kProbability, "Probability of going up from 38.4 kbit/s."),
@@ -90,7 +90,7 @@ using SB_Mac_ValRateParameters = ValueOf<kValRateParameters>;
 inline constexpr Meaning kEightSlots{.unit = "slots", .scale = 8, .summary = "8 slots"};
 
 inline constexpr RecordField kValHandoffDelaysFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_SofterHandoffDelay", 8, "00000001", &kEightSlots, "Between sectors that transmit the same queue."),
     fixed("PRstr_SoftHandoffDelay", 8, "00001000", &kEightSlots, "Between other sectors."),
 };
@@ -101,10 +101,10 @@ inline constexpr ValueSpec kValHandoffDelays{.name = "SB_Mac_ValHandoffDelays",
 using SB_Mac_ValHandoffDelays = ValueOf<kValHandoffDelays>;
 
 inline constexpr RecordField kValDRCLockFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_DRCLockPeriod", 1, "1", nullptr, "Time between DRCLock bits: 0 is 8 slots, 1 is 16 slots."),
     fixed("PRstr_DRCLockLength", 2, "01", nullptr, "How often a DRCLock bit is repeated: 4, 8, 16 or 32 times."),
-    kReserved,
+    kReservedField,
 };
 inline constexpr ValueSpec kValDRCLock{.name = "SB_Mac_ValDRCLock",
                                        .summary = "A value of DRCLock",
@@ -114,7 +114,7 @@ inline constexpr ValueSpec kValDRCLock{.name = "SB_Mac_ValDRCLock",
 using SB_Mac_ValDRCLock = ValueOf<kValDRCLock>;
 
 inline constexpr RecordField kValDRCTranslationOffsetFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_DRCOffset1", 4, {}, nullptr, "Subtracted from a DRC index of 1."),
     fixed("PRstr_DRCOffset2", 4, {}, nullptr, "Subtracted from a DRC index of 2."),
     fixed("PRstr_DRCOffset3", 4, {}, nullptr, "Subtracted from a DRC index of 3."),
@@ -143,7 +143,7 @@ using SB_Mac_ValDRCTranslationOffset = ValueOf<kValDRCTranslationOffset>;
 // --- Reverse traffic channel, subtype 3
 
 inline constexpr RecordField kValMaxMACFlowsFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_MaxNumMACFlows", 8, {}, nullptr, "MAC flows that the terminal supports."),
     fixed("PRstr_MaxNumActiveMACFlows", 8, {}, nullptr, "MAC flows that can be active at a time."),
 };
@@ -155,7 +155,7 @@ inline constexpr ValueSpec kValMaxMACFlows{.name = "SB_Mac_ValMaxMACFlows",
 using SB_Mac_ValMaxMACFlows = ValueOf<kValMaxMACFlows>;
 
 inline constexpr RecordField kValAssociatedFlowsNNFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_FlowCnt", 8, {}, nullptr, "The number of streams that the MAC flow carries."),
     {.name = "PRstr_Stream", .bits = 9, .repeat = list_by("PRstr_FlowCnt", 1), .summary = "A stream."},
     {.name = "PRstr_SubStream", .bits = 8, .repeat = list_by("PRstr_FlowCnt", 1), .summary = "Its substream."},

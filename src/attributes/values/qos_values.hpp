@@ -83,7 +83,7 @@ inline constexpr ValueOperation kQoSRequestOperations[] = {
 inline constexpr std::string_view kOfProfile = "SB_App_ValReservationKKQoSRequestRev";
 
 inline constexpr RecordField kQoSRequestFields[] = {
-    kValueId,
+    kValueIdField,
     kProfileTypeField,
     kProfileLengthField,
     kProfileValueField,
@@ -152,7 +152,7 @@ void let_granted_set(Record& record, std::size_t index, std::string_view bits);
 
 template <const std::string_view& Source>
 inline constexpr RecordField kQoSResponseFields[] = {
-    kValueId,
+    kValueIdField,
     kProfileTypeField,
     kProfileLengthField,
     kProfileValueField,

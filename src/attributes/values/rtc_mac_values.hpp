@@ -30,7 +30,7 @@ constexpr ValueSpec rtc_mac_value(std::string_view name, std::string_view summar
 }
 
 inline constexpr RecordField kValAuxiliaryPilotChnlParamsFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_AuxiliaryPilotChannelGain", 4, {}, nullptr, "Below the data channel, dB."),
     fixed("PRstr_AuxiliaryPilotChannelMinPayload", 4, {}, &kPayloadSize, "The smallest payload that it goes with."),
 };
@@ -40,7 +40,7 @@ inline constexpr ValueSpec kValAuxiliaryPilotChnlParams =
 using SB_Mac_ValAuxiliaryPilotChnlParams = ValueOf<kValAuxiliaryPilotChnlParams>;
 
 inline constexpr RecordField kValCommonPowerParametersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_AllocationStagger", 4, {}, nullptr, "1/16."),
     fixed("PRstr_TxT2Pmin", 8, {}, &kQuarterDb, "The smallest traffic to pilot ratio."),
     fixed("PRstr_RPCStep", 2, "01", nullptr, "Step of the reverse power control: 0 is 0.5 dB, 1 is 1 dB."),
@@ -51,7 +51,7 @@ inline constexpr ValueSpec kValCommonPowerParameters =
 using SB_Mac_ValCommonPowerParameters = ValueOf<kValCommonPowerParameters>;
 
 inline constexpr RecordField kValRequestParametersFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_ReqRatio", 4, {}, nullptr, "Requests sent at most, as a ratio of data packets."),
     fixed("PRstr_MaxReqInterval", 4, {}, nullptr, "Longest time between requests."),
 };
@@ -60,7 +60,7 @@ inline constexpr ValueSpec kValRequestParameters = rtc_mac_value(
 using SB_Mac_ValRequestParameters = ValueOf<kValRequestParameters>;
 
 inline constexpr RecordField kValRRIChannelPwrParamFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_RRIChannelGainPreTransition0", 4, {}, nullptr, "Gain code."),
     fixed("PRstr_RRIChannelGainPostTransition0", 4, {}, nullptr, "Gain code."),
     fixed("PRstr_RRIChannelGainPreTransition1", 4, {}, nullptr, "Gain code."),
@@ -80,7 +80,7 @@ inline constexpr RecordField kFlowNN{
 
 inline constexpr RecordField kValT2PInflowRangeNNFields[] = {
     kFlowNN,
-    kValueId,
+    kValueIdField,
     fixed("PRstr_T2PInflowmin", 8, {}, &kQuarterDb, "The smallest inflow."),
     fixed("PRstr_T2PInflowmax", 8, {}, &kQuarterDb, "The largest inflow."),
 };
@@ -102,7 +102,7 @@ inline constexpr RecordField kNumPilotStrengthAxisValues3 =
 inline constexpr std::uint16_t kTxT2PmaxBits = 8;
 
 inline constexpr RecordField kValTxT2PmaxFields[] = {
-    kValueId,
+    kValueIdField,
     kNumPilotStrengthAxisValues3,
     {.name = "PilotStrengthAxis",
      .bits = 6,
@@ -122,7 +122,7 @@ inline constexpr ValueSpec kValTxT2Pmax =
 using SB_Mac_ValTxT2Pmax = ValueOf<kValTxT2Pmax>;
 
 inline constexpr RecordField kValPilotStrengthFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_NumPilotStrengthAxisValues", 4, "0001", nullptr, "The number of axis values, 1 or 2."),
     {.name = "PilotStrengthAxis",
      .bits = 6,
@@ -149,7 +149,7 @@ inline constexpr std::uint8_t kAxisPlaces = 4;
 
 inline constexpr RecordField kValT2PTransitionFunctionNNFields[] = {
     kFlowNN,
-    kValueId,
+    kValueIdField,
     kNumT2PAxisValues,
     kNumFRABAxisValues,
     {.name = "T2PAxis",
@@ -199,7 +199,7 @@ inline constexpr ValueSpec kValT2PTransitionFunctionNN{.name = "SB_Mac_ValT2PTra
 using SB_Mac_ValT2PTransitionFunctionNN = ValueOf<kValT2PTransitionFunctionNN>;
 
 inline constexpr RecordField kValBucketFactorNNFields[] = {
-    kValueId,
+    kValueIdField,
     kFlowNN,
     kNumT2PAxisValues,
     kNumFRABAxisValues,
@@ -238,7 +238,7 @@ constexpr RecordField permitted(std::string_view name) {
   return fixed(name, 4, {}, &kPayloadSize, "The largest payload, by what was sent so many subframes before.");
 }
 inline constexpr RecordField kValPermittedPayloadFields[] = {
-    kValueId,
+    kValueIdField,
     permitted("PRstr_PermittedPayload0_1"),
     permitted("PRstr_PermittedPayload0_2"),
     permitted("PRstr_PermittedPayload0_3"),

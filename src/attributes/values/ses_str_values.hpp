@@ -6,7 +6,7 @@
 namespace vorlan {
 
 inline constexpr RecordField kValPriorSessionFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_Restore", 1, {}, nullptr, "\"1\" asks for the prior session and carries what identifies it."),
     {.name = "PRstr_Reserved", .width = to_octet(), .settable = false},
     {.name = "PRstr_UATI",
@@ -45,7 +45,7 @@ inline constexpr Code kApplications[] = {{0x0000, "default signaling"},
 inline constexpr Meaning kApplication{.codes = kApplications, .summary = "application subtype"};
 
 inline constexpr RecordField kValStreamConfigFields[] = {
-    kValueId,
+    kValueIdField,
     fixed("PRstr_Stream0Application", 16, {}, &kApplication, "What stream 0 carries."),
     fixed("PRstr_Stream1Application", 16, "1111111111111111", &kApplication, "What stream 1 carries."),
     fixed("PRstr_Stream2Application", 16, "1111111111111111", &kApplication, "What stream 2 carries."),

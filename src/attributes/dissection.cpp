@@ -1,0 +1,97 @@
+#include "attributes/dissection.hpp"
+
+#include <string>
+
+#include "attributes/complex/complex_attribute.hpp"
+#include "attributes/simple_attribute.hpp"
+#include "codec/meanings.hpp"
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::uint32_t kLengthBits = 8;
+
+std::string bracketed(std::size_t index) { return "[" + std::to_string(index) + "]"; }
+
+/// Length and AttributeID, and what is left behind them.
+Extent dissect_header(std::string_view whole, Extent record, std::size_t id_bits, std::vector<DissectedField>& tree) {
+  const auto header = static_cast<std::uint32_t>(kLengthBits + id_bits);
+  tree.push_back(dissected_leaf("Length", &kOctets, whole, {record.offset, kLengthBits}));
+  tree.push_back(
+      dissected_leaf("AttributeID", &kHex, whole, {record.offset + kLengthBits, static_cast<std::uint32_t>(id_bits)}));
+  return {record.offset + header, record.width > header ? record.width - header : 0};
+}
+
+}  // namespace
+
+std::vector<DissectedField> dissect(const RecordClass& record, std::string_view whole, Extent place) {
+  std::vector<DissectedField> tree;
+  const RecordLayout layout(record, slice(whole, place));
+  const auto shifted = [&](Extent extent) {
+    extent.offset += place.offset;
+    return extent;
+  };
+  std::size_t open = 0;  // the repetition whose fields are being gathered, and its group, from 1
+  std::size_t open_group = 0;
+  for (const RecordLayout::Visit& visit : layout.visits()) {
+    const RecordClass::Field& field = record.field(visit.field);
+    DissectedField node = dissected_leaf(field.spec->name, field.spec->meaning, whole, shifted(visit.extent));
+    const RecordClass::Group& group = record.groups()[field.group];
+    if (is_table(*field.spec) && group.end - group.first > 1) {
+      node.name += bracketed(visit.at.inner);
+    } else if (is_list(*field.spec) && group.end - group.first == 1) {
+      node.name += bracketed(visit.at.index);
+      if (is_table(*field.spec)) node.name += bracketed(visit.at.inner);
+    }
+    if (!is_list(*field.spec) || group.end - group.first == 1) {
+      open_group = 0;
+      tree.push_back(std::move(node));
+      continue;
+    }
+    if (open_group != field.group + std::size_t{1} || open != visit.at.index) {
+      tree.push_back({.name = bracketed(visit.at.index), .first = node.first});
+      open_group = field.group + std::size_t{1};
+      open = visit.at.index;
+    }
+    tree.back().below.push_back(std::move(node));
+  }
+  if (layout.end() < place.width) {
+    const auto end = static_cast<std::uint32_t>(layout.end());
+    tree.push_back(dissected_leaf("Reserved", nullptr, whole, shifted({end, place.width - end})));
+  }
+  return tree;
+}
+
+std::vector<DissectedField> SimpleAttribute::dissect(std::string_view whole, Extent record) const {
+  std::vector<DissectedField> tree;
+  const std::size_t id_bits = class_.spec().id_bits;
+  const Extent value = dissect_header(whole, record, id_bits, tree);
+  tree.push_back(dissected_leaf("AttrValue", nullptr, whole, value));
+  if (value.width != class_.spec().value_bits) tree.back().note = "not as wide as the class says";
+  return tree;
+}
+
+std::vector<DissectedField> ComplexAttribute::dissect(std::string_view whole, Extent record) const {
+  std::vector<DissectedField> tree;
+  const ComplexAttributeSpec& spec = class_.spec();
+  Extent rest = dissect_header(whole, record, spec.id_bits, tree);
+  if (spec.form == AttributeForm::Fields) {
+    for (DissectedField& field : vorlan::dissect(class_.fields(), whole, rest)) tree.push_back(std::move(field));
+    return tree;
+  }
+  const std::vector<std::size_t> lengths = spec.values().split(slice(whole, rest));
+  for (std::size_t i = 0; i < lengths.size(); ++i) {
+    const auto width = static_cast<std::uint32_t>(lengths[i]);
+    tree.push_back({.name = "Value " + std::to_string(i), .first = rest.offset + std::size_t{1}});
+    tree.back().below = vorlan::dissect(spec.values().record(), whole, {rest.offset, width});
+    rest = {rest.offset + width, rest.width - width};
+  }
+  if (rest.width > 0) {
+    tree.push_back(dissected_leaf("Values", &kHex, whole, rest));
+    tree.back().note = "no whole number of value records";
+  }
+  return tree;
+}
+
+}  // namespace vorlan
