@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstring>
 
+#include "automation/bind.hpp"
 #include "messages/connection/route_update.hpp"
 #include "messages/connection/sector_parameters.hpp"
 #include "messages/identification.hpp"
@@ -22,14 +23,34 @@ namespace {
 const std::string kUATI104 = std::string(40, '1') + std::string(64, '0');
 const Value kColour[] = {"00010001"};
 
-/// A sector whose configuration was loaded from the example file.
+/// A sector as the library binds its own: what messages ask it for.
+class Sector final : public BoundObject<Sector> {
+ public:
+  explicit Sector(Ref<Object> parameters) : parameters_(std::move(parameters)) {}
+
+  [[nodiscard]] Ref<Object> parameters() const { return parameters_; }
+  [[nodiscard]] std::string name() const { return "SECTOR 0"; }
+
+  static constexpr ClassInfo::Texts texts() { return {"Sector", "A sector for benchmarks", ""}; }
+  static std::span<const BoundMember> members() {
+    static constexpr BoundMember kMembers[] = {
+        property<&Sector::parameters>("PRobj_GlobalParameters", "The configuration"),
+        property<&Sector::name>("PRstr_SectorName", "The name"),
+    };
+    return kMembers;
+  }
+
+ private:
+  Ref<Object> parameters_;
+};
+
+/// Its configuration was loaded from the example file.
 Ref<Object> sector() {
   static Platform platform = native_platform();
   const auto parameters = Registry(class_tables()).create("SB_GlobalParameters", platform);
   parameters->let("PRstr_FileName", VORLAN_EXAMPLE_FILE);
   parameters->call("Initialize", "SECTOR 0");
-  return make<test::PropertyBag>(std::map<std::string, Value, test::PropertyBag::Less>{
-      {"PRobj_GlobalParameters", parameters}, {"PRstr_SectorName", "SECTOR 0"}});
+  return make<Sector>(parameters);
 }
 
 void YardstickPack(benchmark::State& state) {

@@ -44,8 +44,8 @@ ClassInfo::ClassInfo(Texts texts, std::vector<MemberInfo> members, std::vector<F
       members_(std::move(members)),
       fields_(std::move(fields)),
       errors_(std::move(errors)),
-      by_name_(std::bit_ceil(members_.size() * 2 + 1)),
-      by_small_letters_(by_name_.size()) {
+      by_name_{std::vector<Slot>(std::bit_ceil(members_.size() * 2 + 1))},
+      by_small_letters_(by_name_) {
   dispatch_.reserve(members_.size());
   for (std::size_t i = 0; i < members_.size(); ++i) {
     const MemberInfo& member = members_[i];
@@ -67,13 +67,18 @@ ClassInfo::ClassInfo(Texts texts, std::vector<MemberInfo> members, std::vector<F
 
 void ClassInfo::enter(Index& index, const MemberKey& key, int member) {
   std::size_t slot = key.hash();
-  while (index[slot & (index.size() - 1)].member >= 0) ++slot;
-  index[slot & (index.size() - 1)] = {key, member};
+  while (index.slots[slot & index.mask].member >= 0) ++slot;
+  index.slots[slot & index.mask] = {key, member};
 }
 
-int ClassInfo::find_in_any_case(const MemberKey& key, std::string_view member) const noexcept {
-  return find(by_small_letters_, key.in_small_letters(),
-              [&](std::string_view name) { return equals_ignoring_case(name, member); });
+int ClassInfo::find_long_name(const PreparedName& member) const noexcept {
+  return find(by_name_, member.key, member.hash, [&](int found) { return dispatch(found).name == member.text; });
+}
+
+int ClassInfo::find_in_any_case(const PreparedName& member) const noexcept {
+  const MemberKey key = member.key.in_small_letters();
+  return find(by_small_letters_, key, key.hash(),
+              [&](int found) { return equals_ignoring_case(dispatch(found).name, member.text); });
 }
 
 void ClassObject::refuse_call(int member, std::string_view name, Access access) const {

@@ -72,10 +72,14 @@ class ClassInfo {
   [[nodiscard]] std::span<const ErrorInfo> errors() const noexcept { return errors_; }
 
   /// The index of a member, found without regard to case; -1 if there is none.
-  [[nodiscard]] int find(std::string_view member) const noexcept {
-    const MemberKey key(member);
-    const int exact = find(by_name_, key, [&](std::string_view name) { return name == member; });
-    return exact >= 0 ? exact : find_in_any_case(key, member);
+  [[nodiscard]] int find(const PreparedName& member) const noexcept {
+    const int exact = find_as_spelt(member);
+    return exact >= 0 ? exact : find_in_any_case(member);
+  }
+  /// The same for a name that is spelt as the class spells it.
+  [[nodiscard]] int find_as_spelt(const PreparedName& member) const noexcept {
+    return member.key.is_whole_name() ? find(by_name_, member.key, member.hash, [](int) { return true; })
+                                      : find_long_name(member);
   }
 
   /// What a call must know of a member, kept small and together: every late-bound call looks here.
@@ -99,19 +103,21 @@ class ClassInfo {
     MemberKey key;
     int member = -1;
   };
-  /// Open addressing; a power of two of slots.
-  using Index = std::vector<Slot>;
+  /// Open addressing; a power of two of slots, and that less one.
+  struct Index {
+    std::vector<Slot> slots;
+    std::size_t mask = slots.size() - 1;
+  };
   void enter(Index& index, const MemberKey& key, int member);
-  [[nodiscard]] int find_in_any_case(const MemberKey& key, std::string_view member) const noexcept;
+  [[nodiscard]] int find_in_any_case(const PreparedName& member) const noexcept;
+  [[nodiscard]] int find_long_name(const PreparedName& member) const noexcept;
   template <class SameName>
-  [[nodiscard]] int find(const Index& index, const MemberKey& key, SameName&& same_name) const noexcept {
-    const std::size_t mask = index.size() - 1;
-    for (std::size_t i = key.hash();; ++i) {
-      const Slot& slot = index[i & mask];
+  [[nodiscard]] int find(const Index& index, const MemberKey& key, std::size_t hash,
+                         SameName&& same_name) const noexcept {
+    for (std::size_t i = hash;; ++i) {
+      const Slot& slot = index.slots[i & index.mask];
       if (slot.member < 0) return slot.member;
-      if (slot.key == key && (key.size <= MemberKey::kWholeNames || same_name(dispatch(slot.member).name))) {
-        return slot.member;
-      }
+      if (slot.key == key && same_name(slot.member)) return slot.member;
     }
   }
 

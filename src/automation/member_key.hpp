@@ -1,28 +1,30 @@
 // A member's name in a form that is quick to look up.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 namespace vorlan {
 
 /// The first, middle and last eight characters of a name: the whole of a name of up to 24.
 struct MemberKey {
-  static constexpr std::size_t kWholeNames = 24;
-
   MemberKey() = default;
-  explicit MemberKey(std::string_view name) noexcept : size(name.size()) {
+  constexpr explicit MemberKey(std::string_view name) noexcept : size(name.size()) {
     constexpr std::size_t kWord = sizeof first;
     if (size >= kWord) {
-      first = load(name.data());
-      middle = load(name.data() + (size - kWord) / 2);
-      last = load(name.data() + size - kWord);
+      first = load(name.data(), kWord);
+      middle = load(name.data() + (size - kWord) / 2, kWord);
+      last = load(name.data() + size - kWord, kWord);
     } else {
-      std::memcpy(&first, name.data(), size);
+      first = load(name.data(), size);
     }
   }
+
+  /// Names of the same key are the same name, unless they are long.
+  [[nodiscard]] constexpr bool is_whole_name() const noexcept { return size <= 3 * sizeof first; }
 
   /// The same for every case of the letters A to Z.
   [[nodiscard]] MemberKey in_small_letters() const noexcept {
@@ -33,7 +35,7 @@ struct MemberKey {
 
   friend bool operator==(const MemberKey&, const MemberKey&) noexcept = default;
 
-  [[nodiscard]] std::size_t hash() const noexcept {
+  [[nodiscard]] constexpr std::size_t hash() const noexcept {
     const std::uint64_t mixed =
         (first ^ std::rotl(middle, 23)) * 0x9E3779B97F4A7C15U + (last ^ size) * 0xC2B2AE3D27D4EB4FU;
     return static_cast<std::size_t>(mixed >> 40U);
@@ -45,10 +47,10 @@ struct MemberKey {
   std::size_t size = 0;
 
  private:
-  static std::uint64_t load(const char* text) noexcept {
-    std::uint64_t word = 0;
-    std::memcpy(&word, text, sizeof word);
-    return word;
+  static constexpr std::uint64_t load(const char* text, std::size_t count) noexcept {
+    std::array<char, sizeof first> characters{};
+    std::copy_n(text, count, characters.begin());
+    return std::bit_cast<std::uint64_t>(characters);
   }
 
   /// The letters A to Z of eight characters turned small; every other character stays.
@@ -60,6 +62,17 @@ struct MemberKey {
     const std::uint64_t capital = (from_a ^ past_z) & ~word & (kEach * 0x80);
     return word | (capital >> 2U);
   }
+};
+
+/// A member's name ready to be looked up: where it is a constant, it is made ready when the program is compiled.
+struct PreparedName {
+  constexpr PreparedName() = default;
+  constexpr PreparedName(std::string_view name) noexcept : text(name), key(name), hash(key.hash()) {}
+  constexpr PreparedName(const char* name) noexcept : PreparedName(std::string_view(name)) {}
+
+  std::string_view text;
+  MemberKey key;
+  std::size_t hash = 0;
 };
 
 }  // namespace vorlan

@@ -7,6 +7,7 @@
 #include <span>
 #include <string_view>
 
+#include "automation/member_key.hpp"
 #include "automation/value.hpp"
 
 namespace vorlan {
@@ -15,10 +16,13 @@ class ClassInfo;
 
 enum class Access : std::uint8_t { Get, Let, Set, Call };
 
-/// The octets of a message object that lives in this process. Reading or writing them whole is one call where the
-/// late-bound `Octet` property takes one per octet.
+/// A message object that lives in this process: its `Length`, and its octets, which are read or written whole where the
+/// late-bound `Octet` property takes one call per octet.
 class OctetBuffer {
  public:
+  /// In bits.
+  [[nodiscard]] virtual std::int16_t length() const noexcept = 0;
+  virtual void set_length(std::int16_t bits) = 0;
   /// The octets held; a message object answers zero for every octet past them.
   [[nodiscard]] virtual std::span<const std::uint8_t> octets() const noexcept = 0;
   /// Replaces the first octets and leaves those behind them.
@@ -46,8 +50,9 @@ class Object {
   [[nodiscard]] virtual OctetBuffer* octet_buffer() noexcept { return nullptr; }
 
   /// The text that a property of an in-process object holds, without a copy: no arguments, or an empty first one.
-  /// Null where there is no such text and the property has to be got. It holds until the object changes.
-  [[nodiscard]] virtual const std::string* held_text(std::string_view) const noexcept { return nullptr; }
+  /// Null where there is no such text, or none of a property spelt so, and the property has to be got. It holds until
+  /// the object changes.
+  [[nodiscard]] virtual const std::string* held_text(const PreparedName&) const noexcept { return nullptr; }
 
   template <class... Arguments>
   Value get(std::string_view member, Arguments&&... arguments) {

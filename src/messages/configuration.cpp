@@ -5,21 +5,17 @@
 namespace vorlan {
 
 Value Configuration::value(std::string_view property, std::string_view section) const {
-  return deref(parameters_, property).get(property, section);
+  const Ref<Object> asked = parameters_;
+  return deref(asked, property).get(property, section);
 }
 
-void Configuration::append(std::string_view property, std::string& bits) const {
-  if (const std::string* held = deref(parameters_, property).held_text(property)) {
-    bits += *held;
-  } else {
-    bits += text(property);
-  }
+std::string Configuration::text(const PreparedName& property, std::string_view section) const {
+  const std::string* held = section.empty() ? held_text(property) : nullptr;
+  return held != nullptr ? *held : late_bound_text(property.text, section);
 }
 
-std::string Configuration::text(std::string_view property, std::string_view section) const {
-  Value found = value(property, section);
-  if (auto* text = found.as<std::string>()) return std::move(*text);
-  return found.to_text();
+std::string Configuration::late_bound_text(std::string_view property, std::string_view section) const {
+  return value(property, section).to_text();
 }
 
 std::string Configuration::bits(std::string_view property, int width) const {
@@ -27,7 +23,8 @@ std::string Configuration::bits(std::string_view property, int width) const {
 }
 
 std::string Configuration::sector_name() const {
-  return deref(sector_, "PRstr_SectorName").get("PRstr_SectorName").to_text();
+  const Ref<Object> asked = sector_;
+  return deref(asked, "PRstr_SectorName").get("PRstr_SectorName").to_text();
 }
 
 }  // namespace vorlan

@@ -14,7 +14,7 @@ namespace {
 /// The encoding side of walk(): stored values in, bits out.
 class Encoder {
  public:
-  Encoder(const BuildContext& context, std::string& bits) : context_(context), message_(context.message), bits_(bits) {}
+  Encoder(const BuildContext& context, BitBuffer& bits) : context_(context), message_(context.message), bits_(bits) {}
 
   [[nodiscard]] std::string_view value(std::size_t field, std::size_t index) const noexcept {
     return message_.stored(field, index);
@@ -23,11 +23,11 @@ class Encoder {
     const auto fields = message_.message_class().fields();
     const MessageClass::Field& row = fields[field];
     if (row.spec->present.kind == PresenceRule::Kind::AnyIsOne) {
-      return value(static_cast<std::size_t>(row.present_field), 0) == "1" ||
-             value(static_cast<std::size_t>(row.present_other), 0) == "1";
+      return is_flag(value(static_cast<std::size_t>(row.present_field), 0), '1') ||
+             is_flag(value(static_cast<std::size_t>(row.present_other), 0), '1');
     }
     for (std::size_t later = field; later < fields.size(); ++later) {
-      if (fields[later].spec->present.kind == PresenceRule::Kind::InChain && value(later, 0) == "1") return true;
+      if (fields[later].spec->present.kind == PresenceRule::Kind::InChain && is_flag(value(later, 0), '1')) return true;
     }
     return false;
   }
@@ -47,20 +47,15 @@ class Encoder {
       case MessageClass::Joins::Stored: bits_ += message_.stored(field, index); break;
       case MessageClass::Joins::Built: row.spec->build(context_, bits_); break;
       case MessageClass::Joins::Viewed: bits_ += row.spec->view(message_, index); break;
-      case MessageClass::Joins::Configured:
-        if (row.spec->from.read == nullptr && row.spec->from.bits == 0) {
-          message_.configuration().append(row.spec->from.property, bits_);
-        } else {
-          bits_ += message_.configured_text(row.spec->from);
-        }
-        break;
+      case MessageClass::Joins::ConfiguredText: message_.configuration().append(row.spec->from.property, bits_); break;
+      case MessageClass::Joins::Configured: bits_ += message_.configured_text(row.spec->from); break;
     }
   }
 
  private:
   const BuildContext& context_;
   Message& message_;
-  std::string& bits_;
+  BitBuffer& bits_;
 };
 
 /// What a list's count can say at most.
@@ -123,11 +118,9 @@ void Message::initialize(Ref<Object> sector, Ref<Object> test_set, std::string_v
 }
 
 std::string Message::configured_text(const Configured& from) const {
-  const Ref<Object> sector = sector_;
-  const Ref<Object> parameters = parameters_;
-  Configuration values(sector, parameters);
+  Configuration values = configuration();
   if (from.read != nullptr) return from.read(values);
-  return from.bits != 0 ? values.bits(from.property, from.bits) : values.text(from.property);
+  return from.bits != 0 ? values.bits(from.property.text, from.bits) : values.text(from.property);
 }
 
 void Message::take_initial_configuration() {
@@ -135,12 +128,12 @@ void Message::take_initial_configuration() {
   std::vector<std::pair<const MessageClass::Field*, std::string>> taken;
   for (const MessageClass::Field& field : class_.fields()) {
     if (!field.spec->from.at_initialize) continue;
-    if (is_repeated(*field.spec) && lists_[static_cast<std::size_t>(field.slot)].empty()) continue;
+    if (field.repeated && lists_[static_cast<std::size_t>(field.slot)].empty()) continue;
     taken.emplace_back(&field, configured_text(field.spec->from));
   }
   for (auto& [field, text] : taken) {
     const auto slot = static_cast<std::size_t>(field->slot);
-    if (!is_repeated(*field->spec)) {
+    if (!field->repeated) {
       texts_[slot] = std::move(text);
     } else if (!lists_[slot].empty()) {
       lists_[slot].front() = std::move(text);
@@ -169,51 +162,41 @@ void Message::check_counts() const {
   }
 }
 
-void Message::compose(const BuildContext& context, std::string& bits) {
+void Message::compose(const BuildContext& context, BitBuffer& bits) {
   check_counts();
-  constexpr std::size_t kUsualBits = 256;
-  bits.reserve(kUsualBits);
   bits += class_.spec().id;
   Encoder encoder(context, bits);
   walk(class_, encoder);
-  if (class_.spec().padded) add_padding(bits);
+  if (class_.spec().padded) bits.pad();
 }
 
-void Message::encode_into(std::string& bits, std::span<const Value> arguments) {
+void Message::encode_into(BitBuffer& bits, std::span<const Value> arguments) {
   const MessageSpec& spec = class_.spec();
   if (!initialized_) {
     vorlan::raise(spec.create_source.empty() ? source_of(spec, "CreateMessage") : spec.create_source,
                   spec.not_initialized);
   }
-  bits.clear();
-  // A script's configuration may call back and give this message another: the one in use stays until it has answered.
-  const Ref<Object> sector = sector_;
-  const Ref<Object> parameters = parameters_;
   const BuildContext context{*this, arguments};
   if (spec.create != nullptr) {
     spec.create(context, bits);
   } else if (encoder_mode_) {
-    bits = encoder_string_;
+    bits += encoder_string_;
   } else {
     compose(context, bits);
   }
 }
 
 std::string Message::encode(std::span<const Value> arguments) {
-  std::string bits;
+  BitBuffer bits;
   encode_into(bits, arguments);
-  return bits;
+  return std::string(bits.view());
 }
 
 bool Message::create_message(const Ref<Object>& message_object, std::span<const Value> arguments) {
-  // Taken from the object while it is filled: a message object may call back.
-  std::string bits = std::move(built_);
+  BitBuffer bits;
   encode_into(bits, arguments);
   if (bits.size() > kMaxMessageBits) throw Error(ErrorNumber::Overflow, source_of(class_.spec(), "CreateMessage"));
-  Object& target = existing(message_object, "CreateMessage");
-  target.let("Length", static_cast<std::int16_t>(bits.size()));
-  bits_to_message(bits, target);
-  built_ = std::move(bits);
+  fill_message(bits.view(), existing(message_object, "CreateMessage"));
   return true;
 }
 
@@ -224,13 +207,8 @@ void Message::check_letting(const FieldSpec& spec) const {
 }
 
 std::size_t Message::accepted_width(std::size_t field) const noexcept {
-  const MessageClass::Field& row = class_.field(field);
-  switch (row.spec->width.kind) {
-    case WidthRule::Kind::OctetsCountedBy: return 8 * small_value(stored(static_cast<std::size_t>(row.width_field)));
-    case WidthRule::Kind::ValuePlus:
-      return small_value(stored(static_cast<std::size_t>(row.width_field))) + row.spec->width.addend;
-    default: return row.spec->bits;
-  }
+  return width_of(
+      class_.field(field), [this](std::size_t counting) { return stored(counting); }, [] { return std::size_t{0}; });
 }
 
 void Message::check_width(std::size_t field, std::size_t index, std::string_view value) const {
@@ -254,22 +232,23 @@ void Message::let_field(std::size_t field, std::string_view value) {
   check_letting(*row.spec);
   check_width(field, 0, value);
   if (row.spec->view != nullptr) return;
-  if (row.two_names) second_names_ = row.same_as != MessageClass::kNone;
+  const bool second_name = row.same_as != MessageClass::kNone;
+  const std::size_t target = second_name ? static_cast<std::size_t>(row.same_as) : field;
   std::string& text = texts_[static_cast<std::size_t>(row.slot)];
-  const std::size_t target = row.same_as != MessageClass::kNone ? static_cast<std::size_t>(row.same_as) : field;
   if (class_.sized_by(target).empty()) {
     text = value;
     if (!row.spec->sent) layout_known_ = false;
-    return;
+  } else {
+    const std::string before = text;
+    text = value;
+    try {
+      resize_lists(target);
+    } catch (...) {
+      text = before;
+      throw;
+    }
   }
-  const std::string before = text;
-  text = value;
-  try {
-    resize_lists(target);
-  } catch (...) {
-    text = before;
-    throw;
-  }
+  if (row.two_names) second_names_ = second_name;
 }
 
 void Message::let_field(std::size_t field, std::size_t index, std::string_view value) {
@@ -286,9 +265,9 @@ void Message::let_field(std::size_t field, std::size_t index, std::string_view v
   check_width(field, index, value);
   if (index >= count) throw Error(ErrorNumber::SubscriptOutOfRange, source_of(class_.spec(), spec, Fault::BeyondCount));
   if (spec.view != nullptr) return;
-  if (row.two_names) second_names_ = row.same_as != MessageClass::kNone;
   if (index >= list.size()) list.resize(index + 1);
   list[index] = value;
+  if (row.two_names) second_names_ = row.same_as != MessageClass::kNone;
 }
 
 void Message::resize_lists(std::size_t count_field) {
@@ -319,20 +298,14 @@ void Message::resize_lists(std::size_t count_field) {
 
 // --- getting
 
-std::string_view Message::stored(std::size_t field, std::size_t index) const noexcept {
-  const MessageClass::Field& row = class_.field(field);
-  const auto slot = static_cast<std::size_t>(row.slot);
-  if (!is_repeated(*row.spec)) return texts_[slot];
-  return index < lists_[slot].size() ? std::string_view(lists_[slot][index]) : std::string_view{};
-}
-
 std::span<const std::string> Message::stored_list(std::size_t field, std::size_t count) const noexcept {
   const auto& list = lists_[static_cast<std::size_t>(class_.field(field).slot)];
   return std::span(list).first(std::min(count, list.size()));
 }
 
 std::size_t Message::stored_count(std::size_t field) const noexcept {
-  return is_repeated(*class_.field(field).spec) ? lists_[static_cast<std::size_t>(class_.field(field).slot)].size() : 1;
+  const MessageClass::Field& row = class_.field(field);
+  return row.repeated ? lists_[static_cast<std::size_t>(row.slot)].size() : 1;
 }
 
 void Message::store(std::size_t field, std::string_view value) {
@@ -343,6 +316,18 @@ void Message::find_layout() const {
   if (layout_known_) return;
   layout_.find(class_, message_string_, texts_);
   layout_known_ = true;
+}
+
+std::string_view Message::received_at_its_place(std::size_t field) const {
+  const MessageClass::Field& row = class_.field(field);
+  const std::string_view received = message_string_;
+  const std::string_view from_here = received.substr(std::min(static_cast<std::size_t>(row.offset), received.size()));
+  if (row.spec->get_to_end) return from_here;
+  // What stands before a field of known place has a known place itself.
+  const auto earlier = [this](std::size_t counting) {
+    return class_.field(counting).on_air ? received_at_its_place(counting) : stored(counting);
+  };
+  return from_here.substr(0, width_of(row, earlier, [&] { return from_here.size(); }));
 }
 
 Extent Message::received_extent(std::size_t field, std::size_t index) const {
@@ -367,17 +352,12 @@ std::string_view Message::get_field(std::size_t field) const {
   const FieldSpec& spec = *row.spec;
   if (!received_ && class_.spec().direction == Direction::Parsed) raise(spec, Fault::NotSet);
   if (!received_ || spec.read_stored || !spec.sent || spec.integer) return unreceived(field, 0);
-  Extent found{static_cast<std::uint32_t>(row.offset), spec.bits, true};
-  const bool placed = row.offset != MessageClass::kNone;
-  if (placed && spec.width.kind == WidthRule::Kind::OctetsCountedBy &&
-      class_.field(static_cast<std::size_t>(row.width_field)).on_air) {
-    // The first field of varying width stands at a fixed place, and so does its count.
-    const MessageClass::Field& count = class_.field(static_cast<std::size_t>(row.width_field));
-    const Extent counted{static_cast<std::uint32_t>(count.offset), count.spec->bits, true};
-    found.width = static_cast<std::uint32_t>(8 * small_value(slice(message_string_, counted)));
-    if (spec.get_to_end) found.width = static_cast<std::uint32_t>(message_string_.size());
-  } else if (!placed || spec.width.kind != WidthRule::Kind::Fixed) {
-    found = received_extent(row.same_as != MessageClass::kNone ? static_cast<std::size_t>(row.same_as) : field, 0);
+  std::string_view value;
+  if (row.offset != MessageClass::kNone) {
+    value = received_at_its_place(field);
+  } else {
+    Extent found =
+        received_extent(row.same_as != MessageClass::kNone ? static_cast<std::size_t>(row.same_as) : field, 0);
     if (!found.present) {
       if (!spec.absent.empty()) raise(spec, Fault::Absent);
       // A counted field that is not there was received empty.
@@ -385,8 +365,8 @@ std::string_view Message::get_field(std::size_t field) const {
       return unreceived(field, 0);
     }
     if (spec.get_to_end) found.width = static_cast<std::uint32_t>(message_string_.size());
+    value = slice(message_string_, found);
   }
-  const std::string_view value = slice(message_string_, found);
   if (spec.check_received != nullptr) spec.check_received(*this, value);
   return value;
 }

@@ -34,7 +34,7 @@ class Message : public ClassObject {
   /// The bits that create_message would send.
   [[nodiscard]] std::string encode(std::span<const Value> arguments = {});
   /// Joins MessageID and fields as their rows say: what most classes send.
-  void compose(const BuildContext& context, std::string& bits);
+  void compose(const BuildContext& context, BitBuffer& bits);
 
   /// Decodes a received message object: its whole octets, each read once.
   void receive(Ref<Object> message_object);
@@ -55,10 +55,15 @@ class Message : public ClassObject {
   [[nodiscard]] std::size_t accepted_width(std::size_t field) const noexcept;
   /// Of a single field whatever the index, of a list the element: for those who walk over all fields.
   [[nodiscard]] std::string_view get_field_or_element(std::size_t field, std::size_t index) const {
-    return is_repeated(*class_.field(field).spec) ? get_field(field, index) : get_field(field);
+    return class_.field(field).repeated ? get_field(field, index) : get_field(field);
   }
   /// The stored value, no check made, and the number of stored elements.
-  [[nodiscard]] std::string_view stored(std::size_t field, std::size_t index = 0) const noexcept;
+  [[nodiscard]] std::string_view stored(std::size_t field, std::size_t index = 0) const noexcept {
+    const MessageClass::Field& row = class_.field(field);
+    const auto slot = static_cast<std::size_t>(row.slot);
+    if (!row.repeated) return texts_[slot];
+    return index < lists_[slot].size() ? std::string_view(lists_[slot][index]) : std::string_view{};
+  }
   [[nodiscard]] std::span<const std::string> stored_list(std::size_t field, std::size_t count) const noexcept;
   [[nodiscard]] std::size_t stored_count(std::size_t field) const noexcept;
   void store(std::size_t field, std::string_view value);
@@ -79,7 +84,7 @@ class Message : public ClassObject {
  private:
   Value invoke_action(const MessageClass::Member& action, Access access, std::span<Value> arguments);
   Value invoke_field(std::size_t field, Access access, std::span<Value> arguments);
-  void encode_into(std::string& bits, std::span<const Value> arguments);
+  void encode_into(BitBuffer& bits, std::span<const Value> arguments);
   void check_letting(const FieldSpec& spec) const;
   void check_width(std::size_t field, std::size_t index, std::string_view value) const;
   void resize_lists(std::size_t count_field);
@@ -87,6 +92,8 @@ class Message : public ClassObject {
   void check_counts() const;
   void find_layout() const;
   [[nodiscard]] std::string_view unreceived(std::size_t field, std::size_t index) const;
+  /// Of a field whose place is the same in every received message.
+  [[nodiscard]] std::string_view received_at_its_place(std::size_t field) const;
   [[nodiscard]] Extent received_extent(std::size_t field, std::size_t index) const;
   [[nodiscard]] Object& existing(const Ref<Object>& object, std::string_view member) const;
   [[noreturn]] void raise(const FieldSpec& spec, Fault fault, std::string_view appended = {}) const;
@@ -102,7 +109,6 @@ class Message : public ClassObject {
   Ref<Object> sector_;
   Ref<Object> parameters_;
   Ref<Object> test_set_;
-  std::string built_;  ///< the bits sent last, for their memory
 
   bool received_ = false;
   Ref<Object> message_object_;

@@ -68,6 +68,7 @@ void MessageClass::resolve() {
     const FieldSpec& spec = spec_->fields[i];
     Field& field = fields_[i];
     field.spec = &spec;
+    field.repeated = is_repeated(spec);
     field.on_air = spec.sent && !spec.integer;
     field.always =
         spec.present.kind == PresenceRule::Kind::Always && spec.present.also_one.empty() && !spec.present.also_in_tail;
@@ -76,7 +77,7 @@ void MessageClass::resolve() {
     } else if (spec.view != nullptr) {
       field.joins = Joins::Viewed;
     } else if (spec.from.at_create) {
-      field.joins = Joins::Configured;
+      field.joins = spec.from.read == nullptr && spec.from.bits == 0 ? Joins::ConfiguredText : Joins::Configured;
     }
     if (!spec.too_few.empty()) checks_counts_ = true;
     field.width_field = index_of(*spec_, spec.width.field);
@@ -87,7 +88,7 @@ void MessageClass::resolve() {
     field.same_as = index_of(*spec_, spec.same_as);
     field.initial =
         !spec.initial.empty() || spec.starts_empty ? std::string(spec.initial) : std::string(spec.bits, '0');
-    if (is_repeated(spec)) {
+    if (field.repeated) {
       field.slot = static_cast<std::int16_t>(lists_++);
       for (const std::string_view name : {spec.repeat.count, spec.repeat.added_count, spec.width.field}) {
         if (!name.empty()) sized_by_[find_field(spec_->fields, name)].push_back(static_cast<std::uint16_t>(i));
@@ -105,7 +106,7 @@ void MessageClass::resolve() {
   }
   for (std::size_t i = 0; i < fields_.size();) {
     const Repetition& repeat = fields_[i].spec->repeat;
-    const bool repeated = is_repeated(*fields_[i].spec);
+    const bool repeated = fields_[i].repeated;
     const auto belongs = [&](const FieldSpec& next) {
       return repeated ? repeat.record != 0 && next.repeat.record == repeat.record : !is_repeated(next);
     };

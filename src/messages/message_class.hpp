@@ -19,11 +19,18 @@ class MessageClass {
   static constexpr std::int16_t kNone = -1;
 
   /// What CreateMessage joins for a row.
-  enum class Joins : std::uint8_t { Stored, Built, Viewed, Configured };
+  enum class Joins : std::uint8_t {
+    Stored,
+    Built,
+    Viewed,
+    ConfiguredText,  ///< a property of the configuration as it stands
+    Configured,
+  };
 
   /// A row with the fields that it names resolved to indices, and what every walk asks of it at hand.
   struct Field {
     const FieldSpec* spec;
+    bool repeated = false;
     bool on_air = true;
     bool always = true;  ///< there, whatever other fields say
     Joins joins = Joins::Stored;

@@ -47,11 +47,11 @@ std::string condition_text(const FieldSpec& field) {
 std::string origin_text(const MessageSpec& message, const FieldSpec& field) {
   if (!message.builds()) return "received";
   if (field.constant) return "constant";
-  if (field.from.at_create || (field.build != nullptr && !field.from.property.empty())) {
-    return "configuration: " + std::string(field.from.property);
+  if (field.from.at_create || (field.build != nullptr && !field.from.property.text.empty())) {
+    return "configuration: " + std::string(field.from.property.text);
   }
   if (field.build != nullptr || (field.view != nullptr && field.exposure == Exposure::GetOnly)) return "computed";
-  return field.from.exists() ? "set, at first from configuration: " + std::string(field.from.property) : "set";
+  return field.from.exists() ? "set, at first from configuration: " + std::string(field.from.property.text) : "set";
 }
 
 }  // namespace

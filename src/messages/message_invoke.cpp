@@ -45,7 +45,7 @@ Value Message::invoke_field(std::size_t field, Access access, std::span<Value> a
     layout_known_ = false;
     return {};
   }
-  if (!is_repeated(spec)) {
+  if (!class_.field(field).repeated) {
     if (!assigns) return get_field(field);
     if (const auto* text = arguments[0].as<std::string>()) {
       let_field(field, *text);

@@ -15,6 +15,7 @@
 
 namespace vorlan {
 
+class BitBuffer;
 class Configuration;
 class Message;
 
@@ -143,7 +144,7 @@ struct FieldSpec {
   bool first_stays = false;  ///< the first element can be set whatever the count says, which alone decides what is sent
   Configured from = {};
   /// Makes what CreateMessage joins, where it is neither the stored value nor a value of the configuration.
-  void (*build)(const BuildContext& context, std::string& bits) = nullptr;
+  void (*build)(const BuildContext& context, BitBuffer& bits) = nullptr;
   /// Makes a property's value from other stored values: it is joined and read so; a setter only checks.
   std::string (*view)(const Message& message, std::size_t index) = nullptr;
 
@@ -202,7 +203,7 @@ struct MessageSpec {
   /// Names of the arguments that CreateMessage takes behind the message object; all may be left out.
   std::span<const std::string_view> arguments = {};
   /// Replaces the joining of the fields (and runs in encoder mode too); message.compose() is the usual way.
-  void (*create)(const BuildContext& context, std::string& bits) = nullptr;
+  void (*create)(const BuildContext& context, BitBuffer& bits) = nullptr;
   std::string_view received_flag = {};  ///< a boolean property that tells whether a message was received
 
   std::string_view not_initialized = {};

@@ -7,6 +7,25 @@
 
 namespace vorlan {
 
+/// Whether a flag's value is this one; anything but a single character is neither.
+constexpr bool is_flag(std::string_view bits, char value) noexcept { return bits.size() == 1 && bits.front() == value; }
+
+/// How wide a field is, in bits.
+///   std::string_view value(std::size_t field): of the earlier field that a width is counted by
+///   std::size_t rest(): what is left of the message, for a field that takes it all
+template <class Value, class Rest>
+std::size_t width_of(const MessageClass::Field& field, Value&& value, Rest&& rest) {
+  const WidthRule& rule = field.spec->width;
+  const auto counted = [&] { return small_value(value(static_cast<std::size_t>(field.width_field))); };
+  switch (rule.kind) {
+    case WidthRule::Kind::Fixed: return field.spec->bits;
+    case WidthRule::Kind::OctetsCountedBy: return 8 * counted();
+    case WidthRule::Kind::ValuePlus: return counted() + rule.addend;
+    case WidthRule::Kind::Rest: return rest();
+  }
+  return 0;
+}
+
 /// Walks the rows. A side gives values and takes visits:
 ///   std::string_view value(std::size_t field, std::size_t index): of an earlier field, in the same record if repeated
 ///   bool tail_is_there(std::size_t field): whether a flag of an optional chain, or a tail, is there at all
@@ -23,27 +42,17 @@ void walk(const MessageClass& message, Side& side) {
     return side.value(static_cast<std::size_t>(field), index);
   };
   const auto is_there = [&](const MessageClass::Field& field, std::size_t i, std::size_t index) {
-    if (field.also_one != MessageClass::kNone && value(field.also_one, index) != "1") return false;
+    if (field.also_one != MessageClass::kNone && !is_flag(value(field.also_one, index), '1')) return false;
     if (field.spec->present.also_in_tail && !side.tail_is_there(message.tail())) return false;
     switch (field.spec->present.kind) {
       case PresenceRule::Kind::Always: return true;
-      case PresenceRule::Kind::IsOne: return value(field.present_field, index) == "1";
-      case PresenceRule::Kind::IsZero: return value(field.present_field, index) == "0";
+      case PresenceRule::Kind::IsOne: return is_flag(value(field.present_field, index), '1');
+      case PresenceRule::Kind::IsZero: return is_flag(value(field.present_field, index), '0');
       case PresenceRule::Kind::IsAboveZero: return small_value(value(field.present_field, index)) != 0;
       case PresenceRule::Kind::InChain:
       case PresenceRule::Kind::AnyIsOne: return side.tail_is_there(i);
     }
     return true;
-  };
-  const auto width_of = [&](const MessageClass::Field& field, std::size_t index) -> std::size_t {
-    const WidthRule& rule = field.spec->width;
-    switch (rule.kind) {
-      case WidthRule::Kind::Fixed: return field.spec->bits;
-      case WidthRule::Kind::OctetsCountedBy: return 8 * small_value(value(field.width_field, index));
-      case WidthRule::Kind::ValuePlus: return small_value(value(field.width_field, index)) + rule.addend;
-      case WidthRule::Kind::Rest: return side.rest();
-    }
-    return 0;
   };
   for (const MessageClass::Group& group : message.groups()) {
     std::size_t count = 1;
@@ -59,7 +68,10 @@ void walk(const MessageClass& message, Side& side) {
         const MessageClass::Field& field = fields[i];
         if (!field.on_air) continue;
         if (field.always || is_there(field, i, index)) {
-          side.visit(i, index, [&] { return width_of(field, index); });
+          side.visit(i, index, [&] {
+            return width_of(
+                field, [&](std::size_t earlier) { return side.value(earlier, index); }, [&] { return side.rest(); });
+          });
         } else {
           side.skip(i, index);
         }

@@ -33,8 +33,8 @@ SB_GlobalParameters::SB_GlobalParameters(Platform& platform) : ClassObject(info(
   trace("==========SB_GlobalParameters constructor ===============");
 }
 
-const std::string* SB_GlobalParameters::held_text(std::string_view property) const noexcept {
-  const auto row = static_cast<std::size_t>(class_info()->find(property));
+const std::string* SB_GlobalParameters::held_text(const PreparedName& property) const noexcept {
+  const auto row = static_cast<std::size_t>(class_info()->find_as_spelt(property));
   return row < values_.size() ? values_[row].as<std::string>() : nullptr;
 }
 
@@ -154,7 +154,7 @@ void SB_GlobalParameters::set_element(std::size_t parameter, const std::string& 
   const PersonalitySpec& spec = kPersonalitySpecs[parameter];
   check_personality(personality);
   if (!spec.not_subtype2.empty()) {
-    const std::int16_t physical = sector_name.empty() ? personalities_.reach(kPhyLaySubType, personality)
+    const std::int16_t physical = sector_name.empty() ? personalities_.at_or_not_set(kPhyLaySubType, personality)
                                                       : get_element(kPhyLaySubType, sector_name, personality);
     if (physical != 2) raise("SB_GlobalParameters." + std::string(spec.setter), spec.not_subtype2);
   }

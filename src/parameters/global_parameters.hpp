@@ -25,7 +25,7 @@ class SB_GlobalParameters final : public ClassObject {
 
   static const ClassInfo& info();
 
-  [[nodiscard]] const std::string* held_text(std::string_view property) const noexcept override;
+  [[nodiscard]] const std::string* held_text(const PreparedName& property) const noexcept override;
 
   /// Loads every parameter of a sector, once; later calls do nothing. An error leaves the store as it was, and
   /// Initialize may be called again.

@@ -12,6 +12,11 @@ std::int16_t Personalities::at(std::size_t parameter, std::int16_t personality) 
   return elements[static_cast<std::size_t>(personality)];
 }
 
+std::int16_t Personalities::at_or_not_set(std::size_t parameter, std::int16_t personality) const {
+  const auto count = static_cast<std::int32_t>(elements_[parameter].size());
+  return personality < count ? at(parameter, personality) : kNotSet;
+}
+
 std::int16_t& Personalities::reach(std::size_t parameter, std::int16_t personality) {
   if (personality < 0) throw Error(ErrorNumber::SubscriptOutOfRange);
   std::vector<std::int16_t>& elements = elements_[parameter];

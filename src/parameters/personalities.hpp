@@ -114,6 +114,8 @@ class Personalities {
  public:
   /// Error 9 for a personality that has no element.
   [[nodiscard]] std::int16_t at(std::size_t parameter, std::int16_t personality) const;
+  /// The same, but kNotSet above the elements there are.
+  [[nodiscard]] std::int16_t at_or_not_set(std::size_t parameter, std::int16_t personality) const;
   /// The element; missing ones up to it are added, not set. Error 9 for a negative personality.
   std::int16_t& reach(std::size_t parameter, std::int16_t personality);
 

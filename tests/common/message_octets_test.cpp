@@ -18,6 +18,8 @@ class BufferedMessage final : public RecordingMessage, public OctetBuffer {
  public:
   using RecordingMessage::RecordingMessage;
   [[nodiscard]] OctetBuffer* octet_buffer() noexcept override { return this; }
+  [[nodiscard]] std::int16_t length() const noexcept override { return RecordingMessage::length().to_integer(); }
+  void set_length(std::int16_t bits) override { RecordingMessage::set_length(bits); }
   [[nodiscard]] std::span<const std::uint8_t> octets() const noexcept override { return RecordingMessage::octets(); }
   void write_octets(std::span<const std::uint8_t> octets) override { written.assign(octets.begin(), octets.end()); }
 

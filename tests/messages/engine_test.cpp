@@ -117,6 +117,25 @@ TEST(MessageEngine, SurvivesAConfigurationThatCallsBack) {
   message.initialize(sector_of([] {}), {}, "");
   message.let<"PRstr_NumPilots">("0001");
   EXPECT_EQ(message.encode().size(), 64U);
+  // The same while the message is being joined.
+  SB_Ses_MsgUATIAssignment assignment;
+  assignment.initialize(sector_of([&] { assignment.initialize(sector_of({}), {}, ""); }), {}, "");
+  const Value colour[] = {"00010001"};
+  EXPECT_EQ(assignment.encode(colour).size(), 176U);
+}
+
+TEST(MessageEngine, JoinsMessagesOfAnyLength) {
+  SB_Ses_MsgSessionClose message;
+  message.initialize();
+  message.let<"PRstr_MoreInfoLen">("11111111");
+  std::string info;
+  for (int octet = 0; octet < 255; ++octet) info += octet % 3 == 0 ? "10010110" : "01111010";
+  message.let<"PRstr_MoreInfo">(info);
+  EXPECT_EQ(message.encode(),
+            "00000001"
+            "00000000"
+            "11111111" +
+                info);
 }
 
 TEST(Dissection, NamesFieldsAndUnits) {

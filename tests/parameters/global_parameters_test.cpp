@@ -282,6 +282,8 @@ TEST_F(Configured, PersonalityMembers) {
                                "negotiated");
   EXPECT_EQ(set("PhyLaySubType", 2, 1), too_many);
   store_->let("PRint_PersonalityCountAN", I{3});
+  EXPECT_EQ(set("AsyncRate", 3, 4), raised("Set_AsyncRate", "Only Physical layer Sub type 2 supports AsyncRate"));
+  EXPECT_EQ(test::error_number([&] { store_->call("Get_PhyLaySubType", "", I{3}); }), 9) << "nothing was reached";
   EXPECT_EQ(set("PhyLaySubType", 3, 2), test::Raised{});
   EXPECT_EQ(store_->call("Get_PhyLaySubType", "", I{2}), Value(I{-1}));
   EXPECT_EQ(test::error_number([&] { store_->call("Get_PhyLaySubType", "", I{4}); }), 9);

@@ -28,7 +28,7 @@ std::string location_value(const Message& message, std::size_t) {
   return value.append(message.stored("PRstr_PACKET_ZONE_ID"));
 }
 
-void join_location(const BuildContext& context, std::string& bits) {
+void join_location(const BuildContext& context, BitBuffer& bits) {
   const std::string type = context.message.configuration().text("PRstr_LocationType");
   bits += type;
   if (bin_to_dec(type) != 1) {
@@ -43,7 +43,7 @@ void join_location(const BuildContext& context, std::string& bits) {
   bits += value;
 }
 
-void already_joined(const BuildContext&, std::string&) {}
+void already_joined(const BuildContext&, BitBuffer&) {}
 
 void check_packet_zone_id(const Message& message, std::size_t, std::string_view) {
   if (message.configuration().text("PRstr_LocationType") == "00000001") return;

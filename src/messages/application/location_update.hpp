@@ -16,8 +16,8 @@ inline constexpr Meaning kLocation{.text = location_text, .summary = "SID 15, re
 /// SID, a zero, NID of the configuration and the PACKET_ZONE_ID property: 40 bits if all are as wide as they should be.
 std::string location_value(const Message& message, std::size_t index);
 /// Type, length and value at once, since the last two follow from the one read of the first.
-void join_location(const BuildContext& context, std::string& bits);
-void already_joined(const BuildContext& context, std::string& bits);
+void join_location(const BuildContext& context, BitBuffer& bits);
+void already_joined(const BuildContext& context, BitBuffer& bits);
 void check_packet_zone_id(const Message& message, std::size_t index, std::string_view value);
 }  // namespace location_update
 

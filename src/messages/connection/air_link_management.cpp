@@ -4,11 +4,11 @@
 
 namespace vorlan::air_link_management {
 
-void create_redirect(const BuildContext& context, std::string& bits) {
+void create_redirect(const BuildContext& context, BitBuffer& bits) {
   constexpr std::size_t kRecordBits = 24;
   Message& message = context.message;
   if (message.encodes_verbatim()) {
-    bits = message.encoder_string();
+    bits += message.encoder_string();
     return;
   }
   // Setters check widths, but what the configuration holds may be of any.

@@ -8,7 +8,7 @@ namespace vorlan {
 
 namespace air_link_management {
 /// Checks that every channel record is whole.
-void create_redirect(const BuildContext& context, std::string& bits);
+void create_redirect(const BuildContext& context, BitBuffer& bits);
 }  // namespace air_link_management
 
 inline constexpr FieldSpec kRedirectFields[] = {

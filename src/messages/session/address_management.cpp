@@ -6,22 +6,22 @@ namespace vorlan::address_management {
 
 namespace {
 
+constexpr PreparedName kSectorIdParts[] = {"PRstr_SectorID127_96", "PRstr_SectorID95_64", "PRstr_SectorID63_32",
+                                           "PRstr_SectorID"};
+constexpr PreparedName kUATI = "PRstr_UATI";
 constexpr std::size_t kUpperBits = 104;
 constexpr std::size_t kLowBits = 24;
 
 }  // namespace
 
-void upper_sector_id(const BuildContext& context, std::string& bits) {
+void upper_sector_id(const BuildContext& context, BitBuffer& bits) {
   const Configuration configuration = context.message.configuration();
   const std::size_t start = bits.size();
-  configuration.append("PRstr_SectorID127_96", bits);
-  configuration.append("PRstr_SectorID95_64", bits);
-  configuration.append("PRstr_SectorID63_32", bits);
-  configuration.append("PRstr_SectorID", bits);
-  if (bits.size() > start + kUpperBits) bits.resize(start + kUpperBits);
+  for (const PreparedName& part : kSectorIdParts) configuration.append(part, bits);
+  bits.keep_first(kUpperBits, start);
 }
 
-void colour_code(const BuildContext& context, std::string& bits) {
+void colour_code(const BuildContext& context, BitBuffer& bits) {
   if (std::string given = context.argument(0); !given.empty()) {
     bits += given;
     return;
@@ -33,10 +33,10 @@ void colour_code(const BuildContext& context, std::string& bits) {
   bits += configuration.text("PRstr_ColorCode", number < 3 ? "SECTOR 0" : "SECTOR 3");
 }
 
-void low_uati(const BuildContext& context, std::string& bits) {
+void low_uati(const BuildContext& context, BitBuffer& bits) {
   const std::size_t start = bits.size();
-  context.message.configuration().append("PRstr_UATI", bits);
-  if (bits.size() > start + kLowBits) bits.erase(start, bits.size() - start - kLowBits);
+  context.message.configuration().append(kUATI, bits);
+  bits.keep_last(kLowBits, start);
 }
 
 void check_hardware_id_value(const Message& message, std::string_view value) {

@@ -7,11 +7,11 @@ namespace vorlan {
 
 namespace address_management {
 /// The upper 104 of the 128 bits of the sector's identifier.
-void upper_sector_id(const BuildContext& context, std::string& bits);
+void upper_sector_id(const BuildContext& context, BitBuffer& bits);
 /// CreateMessage's colour-code argument, else the colour code of the sector's base station.
-void colour_code(const BuildContext& context, std::string& bits);
+void colour_code(const BuildContext& context, BitBuffer& bits);
 /// The low 24 bits of the sector's UATI.
-void low_uati(const BuildContext& context, std::string& bits);
+void low_uati(const BuildContext& context, BitBuffer& bits);
 }  // namespace address_management
 
 inline constexpr FieldSpec kUATIRequestFields[] = {

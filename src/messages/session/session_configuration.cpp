@@ -4,7 +4,7 @@
 
 namespace vorlan::session_configuration {
 
-void create_soft_configuration_complete(const BuildContext& context, std::string& bits) {
+void create_soft_configuration_complete(const BuildContext& context, BitBuffer& bits) {
   Message& message = context.message;
   const std::string replacement = context.argument(0);
   if (message.encodes_verbatim()) {
@@ -12,11 +12,11 @@ void create_soft_configuration_complete(const BuildContext& context, std::string
       raise("SB_Ses_MsgSoftConfigurationComplete.CreateMessage",
             "Encoder and this property cannot be used simultaneously");
     }
-    bits = message.encoder_string();
+    bits += message.encoder_string();
     return;
   }
   if (!replacement.empty()) {
-    bits = kSoftConfigurationComplete.id;
+    bits += kSoftConfigurationComplete.id;
     bits += message.stored("PRstr_TransactionID");
     bits += replacement;
     return;

@@ -46,7 +46,7 @@ using SB_Ses_MsgConfigurationComplete = MessageOf<kConfigurationComplete>;
 namespace session_configuration {
 /// Computes the token when the configuration does not go on; a second argument of CreateMessage stands for everything
 /// behind the TransactionID.
-void create_soft_configuration_complete(const BuildContext& context, std::string& bits);
+void create_soft_configuration_complete(const BuildContext& context, BitBuffer& bits);
 }  // namespace session_configuration
 
 inline constexpr FieldSpec kSoftConfigurationCompleteFields[] = {

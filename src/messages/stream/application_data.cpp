@@ -1,18 +1,17 @@
 #include "messages/stream/application_data.hpp"
 
 #include "automation/error.hpp"
-#include "common/conversions.hpp"
 
 namespace vorlan::stream {
 
-void create_application_data(const BuildContext& context, std::string& bits) {
+void create_application_data(const BuildContext& context, BitBuffer& bits) {
   if (context.message.encodes_verbatim()) {
-    bits = context.message.encoder_string();
+    bits += context.message.encoder_string();
     return;
   }
   bits += context.message.stored("PRstr_VirtualStream");
   bits += context.message.stored("PRstr_Reserved");
-  add_padding(bits);
+  bits.pad();
 }
 
 void check_virtual_stream(const Message&, std::size_t, std::string_view value) {

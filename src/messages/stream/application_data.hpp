@@ -7,7 +7,7 @@ namespace vorlan {
 
 namespace stream {
 /// VirtualStream and Reserved, filled up to two octets: the payload is not sent, and peers count on that.
-void create_application_data(const BuildContext& context, std::string& bits);
+void create_application_data(const BuildContext& context, BitBuffer& bits);
 /// Seven zeros, which the width of eight refuses before.
 void check_virtual_stream(const Message& message, std::size_t index, std::string_view value);
 }  // namespace stream

@@ -94,6 +94,6 @@ std::string idle_stats(const Message& message, std::size_t) { return find_record
 std::string connected_stats(const Message& message, std::size_t) { return find_record(message, "00000101", 56); }
 std::string first_sync_stats(const Message& message, std::size_t) { return find_record(message, "00000110", 48); }
 
-void join_records(const BuildContext& context, std::string& bits) { bits += context.argument(0); }
+void join_records(const BuildContext& context, BitBuffer& bits) { bits += context.argument(0); }
 
 }  // namespace vorlan::testapp

@@ -22,7 +22,7 @@ std::string connected_stats(const Message& message, std::size_t index);
 std::string first_sync_stats(const Message& message, std::size_t index);
 
 /// The second argument of CreateMessage, as it stands.
-void join_records(const BuildContext& context, std::string& bits);
+void join_records(const BuildContext& context, BitBuffer& bits);
 inline constexpr std::string_view kArguments[] = {"AttributeRecords"};
 
 }  // namespace vorlan::testapp
