@@ -1,6 +1,5 @@
 // vorlan encode and vorlan decode
 #include <algorithm>
-#include <cstdio>
 
 #include "automation/error.hpp"
 #include "cli/assignment.hpp"
@@ -8,12 +7,13 @@
 #include "cli/field_value.hpp"
 #include "cli/names.hpp"
 #include "cli/octets.hpp"
+#include "cli/print_dissected.hpp"
+#include "cli/record_codec.hpp"
 #include "cli/sector.hpp"
-#include "codec/field_tree.hpp"
 #include "common/bits.hpp"
+#include "messages/dissection.hpp"
 #include "messages/identification.hpp"
 #include "messages/message.hpp"
-#include "nlohmann/json.hpp"
 #include "simulator/message_object.hpp"
 
 namespace vorlan::cli {
@@ -21,7 +21,6 @@ namespace vorlan::cli {
 namespace {
 
 using Controls = std::vector<std::pair<std::string, std::string>>;
-using nlohmann::ordered_json;
 
 /// What an assignment sets: a field of the message, or an argument of CreateMessage.
 struct Target {
@@ -37,36 +36,11 @@ Message& message_behind(const Ref<Object>& object, std::string_view class_name, 
   return *message;
 }
 
-ordered_json tree_json(std::span<const DissectedField> tree) {
-  auto list = ordered_json::array();
-  for (const DissectedField& field : tree) {
-    ordered_json node{{"name", field.name}, {"first", field.first}};
-    if (field.below.empty()) node.update({{"width", field.bits.size()}, {"bits", field.bits}, {"value", field.value}});
-    if (!field.note.empty()) node["note"] = field.note;
-    if (!field.below.empty()) node["fields"] = tree_json(field.below);
-    list.push_back(std::move(node));
-  }
-  return list;
-}
-
 void print_message(const MessageClass& message, std::span<const std::uint8_t> octets, std::size_t length,
                    const Controls& controls, bool json) {
   std::string bits(length, '0');
   unpack_bits(octets.data(), length, bits.data());
-  const auto tree = dissect(message, bits, controls);
-  const std::string name(message.info().name());
-  if (json) {
-    const ordered_json whole{
-        {"class", name}, {"length", length}, {"octets", octets_text(octets)}, {"fields", tree_json(tree)}};
-    std::puts(whole.dump(2).c_str());
-    return;
-  }
-  std::printf("%s, %zu bits\n", name.c_str(), length);
-  constexpr std::size_t kOctetsPerLine = 24;
-  for (auto left = octets; !left.empty(); left = left.subspan(std::min(kOctetsPerLine, left.size()))) {
-    std::printf("  %s\n", octets_text(left.first(std::min(kOctetsPerLine, left.size()))).c_str());
-  }
-  std::printf("\n%s", field_tree_text(tree, "  ").c_str());
+  print_dissected(message.info().name(), bits, dissect(message, bits, controls), json);
 }
 
 Target resolve(const MessageClass& message, Assignment assignment) {
@@ -138,6 +112,7 @@ void encode(const Registry& registry, const EncodeOptions& options, bool json) {
   const Registry::Class& named = class_named(registry, options.class_name);
   Platform platform = native_platform();
   const Ref<Object> object = named.entry->create(platform);
+  if (encode_record(registry, object, options.assignments, json)) return;
   Message& message = message_behind(object, named.name(), "CreateMessage");
   const MessageSpec& spec = message.message_class().spec();
   if (!spec.builds()) throw Error(ErrorNumber::MemberNotFound, spec.name, "CreateMessage (it is only received)");
@@ -176,6 +151,7 @@ const Registry::Class& class_of(const Registry& registry, const std::string& whe
   unpack_bits(octets.data(), bits.size(), bits.data());
   const auto found = identify(registry, where, bits);
   if (found.size() == 1) return registry.at(found.front()->info().name());
+  if (const Registry::Class* carrier = found.empty() ? carrier_of_records(registry, bits) : nullptr) return *carrier;
   std::string names;
   for (const MessageClass* message : found) {
     names.append(names.empty() ? "" : ", ").append(message->info().name());
@@ -191,7 +167,9 @@ const Registry::Class& class_of(const Registry& registry, const std::string& whe
 void decode(const Registry& registry, const std::string& where, const std::vector<std::string>& words, bool json) {
   std::vector<std::string> digits;
   std::vector<Assignment> assignments;
-  for (const std::string& word : std::span(words).subspan(where.empty() ? 1 : 0)) {
+  // Records do not tell which protocol they belong to: it may be named beside the class.
+  const bool class_is_named = where.empty() || registry.find(words.front()) != nullptr;
+  for (const std::string& word : std::span(words).subspan(class_is_named ? 1 : 0)) {
     if (word.find('=') == std::string::npos) {
       digits.push_back(word);
     } else {
@@ -203,9 +181,11 @@ void decode(const Registry& registry, const std::string& where, const std::vecto
   if (octets.empty()) throw UsageError("no octets given");
 
   const Registry::Class& named =
-      where.empty() ? class_named(registry, words.front()) : class_of(registry, where, octets);
+      class_is_named ? class_named(registry, words.front()) : class_of(registry, where, octets);
   Platform platform = native_platform();
   const Ref<Object> object = named.entry->create(platform);
+  if (assignments.empty() && decode_record(registry, object, octets, where, json)) return;
+  if (class_is_named && !where.empty()) throw UsageError("a class or a protocol, not both, finds a message");
   Message& message = message_behind(object, named.name(), "PRobj_MessageObject");
   for (Assignment& assignment : assignments) {
     const Target target = resolve(message.message_class(), std::move(assignment));

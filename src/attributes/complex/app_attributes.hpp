@@ -14,7 +14,6 @@ inline constexpr ComplexAttributeSpec kAttrSupportedHigherLayerPro{
     .id = 0x0000,
     .id_bits = 16,
     .values = &ValueOf<kValSupportedHigherLayerPro>::shared_class,
-    .make_value = &make_value<kValSupportedHigherLayerPro>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrSupportedHigherLayerProtocols"};
 using SB_App_AttrSupportedHigherLayerPro = ComplexAttributeOf<kAttrSupportedHigherLayerPro>;
@@ -26,7 +25,6 @@ inline constexpr ComplexAttributeSpec kAttrATSupportedQoSProfiles{
     .id = 0x0002,
     .id_bits = 16,
     .values = &ValueOf<kValATSupportedQoSProfiles>::shared_class,
-    .make_value = &make_value<kValATSupportedQoSProfiles>,
     .wrong_record = kWrongRecord};
 using SB_App_AttrATSupportedQoSProfiles = ComplexAttributeOf<kAttrATSupportedQoSProfiles>;
 
@@ -37,7 +35,6 @@ inline constexpr ComplexAttributeSpec kAttrANSupportedQoSProfiles{
     .id = 0x0003,
     .id_bits = 16,
     .values = &ValueOf<kValANSupportedQoSProfiles>::shared_class,
-    .make_value = &make_value<kValANSupportedQoSProfiles>,
     .wrong_record = kWrongRecord};
 using SB_App_AttrANSupportedQoSProfiles = ComplexAttributeOf<kAttrANSupportedQoSProfiles>;
 
@@ -47,7 +44,6 @@ inline constexpr ComplexAttributeSpec kAttrMaxRLPFlows{.name = "SB_App_AttrMaxRL
                                                        .id = 0x0004,
                                                        .id_bits = 16,
                                                        .values = &ValueOf<kValMaxRLPFlows>::shared_class,
-                                                       .make_value = &make_value<kValMaxRLPFlows>,
                                                        .wrong_record = kWrongRecord};
 using SB_App_AttrMaxRLPFlows = ComplexAttributeOf<kAttrMaxRLPFlows>;
 
@@ -57,7 +53,6 @@ inline constexpr ComplexAttributeSpec kAttrMaxLinkFlows{.name = "SB_App_AttrMaxL
                                                         .id = 0x0004,
                                                         .id_bits = 16,
                                                         .values = &ValueOf<kValMaxLinkFlows>::shared_class,
-                                                        .make_value = &make_value<kValMaxLinkFlows>,
                                                         .wrong_record = kWrongRecord};
 using SB_App_AttrMaxLinkFlows = ComplexAttributeOf<kAttrMaxLinkFlows>;
 
@@ -67,7 +62,6 @@ inline constexpr ComplexAttributeSpec kAttrMaxReservations{.name = "SB_App_AttrM
                                                            .id = 0x0005,
                                                            .id_bits = 16,
                                                            .values = &ValueOf<kValMaxReservations>::shared_class,
-                                                           .make_value = &make_value<kValMaxReservations>,
                                                            .wrong_record = kWrongRecord};
 using SB_App_AttrMaxReservations = ComplexAttributeOf<kAttrMaxReservations>;
 
@@ -79,7 +73,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNIdentificationFwd{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValFlowNNIdentificationFwd>::shared_class,
-    .make_value = &make_value<kValFlowNNIdentificationFwd>,
     .wrong_record = kWrongRecord};
 using SB_App_AttrFlowNNIdentificationFwd = ComplexAttributeOf<kAttrFlowNNIdentificationFwd>;
 
@@ -91,7 +84,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNIdentificationRev{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValFlowNNIdentificationRev>::shared_class,
-    .make_value = &make_value<kValFlowNNIdentificationRev>,
     .wrong_record = kWrongRecord};
 using SB_App_AttrFlowNNIdentificationRev = ComplexAttributeOf<kAttrFlowNNIdentificationRev>;
 
@@ -102,7 +94,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNTimersFwd{.name = "SB_App_AttrF
                                                            .id_bits = 16,
                                                            .id_settable = true,
                                                            .values = &ValueOf<kValFlowNNTimersFwd>::shared_class,
-                                                           .make_value = &make_value<kValFlowNNTimersFwd>,
                                                            .wrong_record = kWrongRecord};
 using SB_App_AttrFlowNNTimersFwd = ComplexAttributeOf<kAttrFlowNNTimersFwd>;
 
@@ -113,7 +104,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNTimersRev{.name = "SB_App_AttrF
                                                            .id_bits = 16,
                                                            .id_settable = true,
                                                            .values = &ValueOf<kValFlowNNTimersRev>::shared_class,
-                                                           .make_value = &make_value<kValFlowNNTimersRev>,
                                                            .wrong_record = kWrongRecord};
 using SB_App_AttrFlowNNTimersRev = ComplexAttributeOf<kAttrFlowNNTimersRev>;
 
@@ -125,7 +115,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNReservationFwd{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValFlowNNReservationFwd>::shared_class,
-    .make_value = &make_value<kValFlowNNReservationFwd>,
     .wrong_record = kWrongRecord};
 using SB_App_AttrFlowNNReservationFwd = ComplexAttributeOf<kAttrFlowNNReservationFwd>;
 
@@ -137,7 +126,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNReservationRev{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValFlowNNReservationRev>::shared_class,
-    .make_value = &make_value<kValFlowNNReservationRev>,
     .wrong_record = kWrongRecord};
 using SB_App_AttrFlowNNReservationRev = ComplexAttributeOf<kAttrFlowNNReservationRev>;
 
@@ -149,7 +137,6 @@ inline constexpr ComplexAttributeSpec kAttrReservationKKQoSReqFwd{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValReservationKKQoSReqFwd>::shared_class,
-    .make_value = &make_value<kValReservationKKQoSReqFwd>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrReservationKKQoSRequestFwd"};
 using SB_App_AttrReservationKKQoSReqFwd = ComplexAttributeOf<kAttrReservationKKQoSReqFwd>;
@@ -162,7 +149,6 @@ inline constexpr ComplexAttributeSpec kAttrReservationKKQoSReqRev{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValReservationKKQoSReqRev>::shared_class,
-    .make_value = &make_value<kValReservationKKQoSReqRev>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrReservationKKQoSRequestRev"};
 using SB_App_AttrReservationKKQoSReqRev = ComplexAttributeOf<kAttrReservationKKQoSReqRev>;
@@ -175,7 +161,6 @@ inline constexpr ComplexAttributeSpec kAttrReservationKKQoSRespFwd{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValReservationKKQoSRespFwd>::shared_class,
-    .make_value = &make_value<kValReservationKKQoSRespFwd>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrReservationKKQoSResponseFwd"};
 using SB_App_AttrReservationKKQoSRespFwd = ComplexAttributeOf<kAttrReservationKKQoSRespFwd>;
@@ -188,7 +173,6 @@ inline constexpr ComplexAttributeSpec kAttrReservationKKQoSRespRev{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValReservationKKQoSRespRev>::shared_class,
-    .make_value = &make_value<kValReservationKKQoSRespRev>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrReservationKKQoSResponseRev"};
 using SB_App_AttrReservationKKQoSRespRev = ComplexAttributeOf<kAttrReservationKKQoSRespRev>;
@@ -201,7 +185,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNFlwPrtclParmFwd{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValFlowNNFlwPrtclParmFwd>::shared_class,
-    .make_value = &make_value<kValFlowNNFlwPrtclParmFwd>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrFlowNNFlowProtocolParametersFwd"};
 using SB_App_AttrFlowNNFlwPrtclParmFwd = ComplexAttributeOf<kAttrFlowNNFlwPrtclParmFwd>;
@@ -214,7 +197,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNFlwPrtclParmRev{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValFlowNNFlwPrtclParmRev>::shared_class,
-    .make_value = &make_value<kValFlowNNFlwPrtclParmRev>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrFlowNNFlowProtocolParametersRev"};
 using SB_App_AttrFlowNNFlwPrtclParmRev = ComplexAttributeOf<kAttrFlowNNFlwPrtclParmRev>;
@@ -227,7 +209,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNRutPrtclParmFwd{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValFlowNNRutPrtclParmFwd>::shared_class,
-    .make_value = &make_value<kValFlowNNRutPrtclParmFwd>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrRouteNNRouteProtocolParametersFwd"};
 using SB_App_AttrFlowNNRutPrtclParmFwd = ComplexAttributeOf<kAttrFlowNNRutPrtclParmFwd>;
@@ -240,7 +221,6 @@ inline constexpr ComplexAttributeSpec kAttrFlowNNRutPrtclParmRev{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValFlowNNRutPrtclParmRev>::shared_class,
-    .make_value = &make_value<kValFlowNNRutPrtclParmRev>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrRouteNNRouteProtocolParametersRev"};
 using SB_App_AttrFlowNNRutPrtclParmRev = ComplexAttributeOf<kAttrFlowNNRutPrtclParmRev>;
@@ -253,7 +233,6 @@ inline constexpr ComplexAttributeSpec kAttrATSuppFlwProtlPrmPP{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValATSuppFlwProtlPrmPP>::shared_class,
-    .make_value = &make_value<kValATSuppFlwProtlPrmPP>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrATSupportedFlowProtocolParametersPP"};
 using SB_App_AttrATSuppFlwProtlPrmPP = ComplexAttributeOf<kAttrATSuppFlwProtlPrmPP>;
@@ -266,7 +245,6 @@ inline constexpr ComplexAttributeSpec kAttrATSuppRutProtlPrmPP{
     .id_bits = 16,
     .id_settable = true,
     .values = &ValueOf<kValATSuppRutProtlPrmPP>::shared_class,
-    .make_value = &make_value<kValATSuppRutProtlPrmPP>,
     .wrong_record = kWrongRecord,
     .source = "SB_App_AttrATSupportedRouteProtocolParametersPP"};
 using SB_App_AttrATSuppRutProtlPrmPP = ComplexAttributeOf<kAttrATSuppRutProtlPrmPP>;

@@ -58,7 +58,7 @@ AttributeValue& ComplexAttribute::value(std::size_t index) {
   if (received_ && index >= lengths_.size()) {
     throw Error(ErrorNumber::SubscriptOutOfRange, class_.source("PRobj_" + std::string(class_.bare_name()) + "Val"));
   }
-  if (!value_) value_ = class_.spec().make_value();
+  if (!value_) value_ = make<AttributeValue>(class_.spec().values());
   if (received_) {
     const auto start =
         std::accumulate(lengths_.begin(), lengths_.begin() + static_cast<std::ptrdiff_t>(index), std::size_t{0});
@@ -108,7 +108,7 @@ Value ComplexAttribute::invoke_member(int index, Access access, std::span<Value>
       if (!assigns) return record_;
       receive(arguments[0].to_text());
       return {};
-    case ComplexAttributeClass::Action::Count: return static_cast<std::int16_t>(count());
+    case ComplexAttributeClass::Action::Count: return Value(static_cast<std::int32_t>(count())).to_integer();
     case ComplexAttributeClass::Action::Length:
       if (!assigns) return length();
       let_length(arguments[0].to_text());

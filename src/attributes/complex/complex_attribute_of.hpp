@@ -46,12 +46,6 @@ class ComplexAttributeOf : public ComplexAttribute {
   }
 };
 
-/// How an attribute's row names its value class.
-template <const ValueSpec& Spec>
-Ref<AttributeValue> make_value() {
-  return make<ValueOf<Spec>>();
-}
-
 template <const ComplexAttributeSpec& Spec>
 constexpr ClassEntry complex_attribute_entry() {
   return {Spec.name, &ComplexAttributeOf<Spec>::info, &ComplexAttributeOf<Spec>::create};

@@ -45,10 +45,9 @@ struct ComplexAttributeSpec {
   /// The low octet of the AttributeID is a flow or a reservation label, which the script sets with the whole ID.
   bool id_settable = false;
 
-  const ValueClass& (*values)() = nullptr;        ///< of its value records
-  Ref<AttributeValue> (*make_value)() = nullptr;  ///< RecordList: the object that PRobj_...Val returns
-  std::span<const RecordField> fields = {};       ///< Fields
-  const AttributeSearch* search = nullptr;        ///< RecordList: in place of PRstr_Length and PRstr_AttribId
+  const ValueClass& (*values)() = nullptr;   ///< of its value records
+  std::span<const RecordField> fields = {};  ///< Fields
+  const AttributeSearch* search = nullptr;   ///< RecordList: in place of PRstr_Length and PRstr_AttribId
 
   std::string_view wrong_record = {};  ///< a received record that is no whole number of value records
   std::string_view not_received = "<PRstr_Attribute> has not been set. Please set this first.";
@@ -67,7 +66,6 @@ constexpr std::string_view fault(const ComplexAttributeSpec& row) {
   if ((row.id >> row.id_bits) != 0) return "an AttributeID wider than its width";
   if (row.id_settable && row.id_bits != 16) return "an AttributeID that can be set has 16 bits";
   if ((row.form == AttributeForm::Fields) != (row.values == nullptr)) return "value records or fields, not both";
-  if ((row.form == AttributeForm::RecordList) != (row.make_value != nullptr)) return "a list gives value objects";
   if ((row.form == AttributeForm::Builder) != row.wrong_record.empty()) return "a text for what cannot be received";
   return fault(row.fields);
 }

@@ -1,4 +1,4 @@
-// Complex attributes of the connection, session and stream layers (C.S0024-A 8.5, 8.7, 5.4, 4).
+// Complex attributes of the connection, session and stream layers (C.S0024-A 8.5, 8.7, 5.4, 6).
 #pragma once
 
 #include "attributes/complex/complex_attribute_of.hpp"
@@ -22,7 +22,6 @@ inline constexpr ComplexAttributeSpec kAttrPrefCtrlChannelCycle{
     .clause = "8.5",
     .id = 0x00,
     .values = &ValueOf<kValPrefCtrlChannelCycle>::shared_class,
-    .make_value = &make_value<kValPrefCtrlChannelCycle>,
     .wrong_record = kWrongConnectionRecord,
     .wrong_length = kWrongOldLength};
 using SB_Con_AttrPrefCtrlChannelCycle = ComplexAttributeOf<kAttrPrefCtrlChannelCycle>;
@@ -32,7 +31,6 @@ inline constexpr ComplexAttributeSpec kAttrSlottedMode{.name = "SB_Con_AttrSlott
                                                        .clause = "8.5",
                                                        .id = 0x01,
                                                        .values = &ValueOf<kValSlottedMode>::shared_class,
-                                                       .make_value = &make_value<kValSlottedMode>,
                                                        .wrong_record = kWrongConnectionRecord,
                                                        .wrong_length = kWrongOldLength};
 using SB_Con_AttrSlottedMode = ComplexAttributeOf<kAttrSlottedMode>;
@@ -42,7 +40,6 @@ inline constexpr ComplexAttributeSpec kAttrPagingMask{.name = "SB_Con_AttrPaging
                                                       .clause = "8.5",
                                                       .id = 0x02,
                                                       .values = &ValueOf<kValPagingMask>::shared_class,
-                                                      .make_value = &make_value<kValPagingMask>,
                                                       .wrong_record = kWrongConnectionRecord,
                                                       .wrong_length = kWrongOldLength};
 using SB_Con_AttrPagingMask = ComplexAttributeOf<kAttrPagingMask>;
@@ -52,7 +49,6 @@ inline constexpr ComplexAttributeSpec kAttrSearchParameters{.name = "SB_Con_Attr
                                                             .clause = "8.7",
                                                             .id = 0x00,
                                                             .values = &ValueOf<kValSearchParameters>::shared_class,
-                                                            .make_value = &make_value<kValSearchParameters>,
                                                             .wrong_record = kWrongConnectionRecord,
                                                             .wrong_length = kWrongOldLength};
 using SB_Con_AttrSearchParameters = ComplexAttributeOf<kAttrSearchParameters>;
@@ -63,7 +59,6 @@ inline constexpr ComplexAttributeSpec kAttrSetMgmSameChnlParameter{
     .clause = "8.7",
     .id = 0x01,
     .values = &ValueOf<kValSetMgmSameChnlParameter>::shared_class,
-    .make_value = &make_value<kValSetMgmSameChnlParameter>,
     .wrong_record = kWrongConnectionRecord,
     .wrong_length = kWrongOldLength};
 using SB_Con_AttrSetMgmSameChnlParameter = ComplexAttributeOf<kAttrSetMgmSameChnlParameter>;
@@ -74,7 +69,6 @@ inline constexpr ComplexAttributeSpec kAttrSetMgmDiffChnlParameter{
     .clause = "8.7",
     .id = 0x02,
     .values = &ValueOf<kValSetMgmDiffChnlParameters>::shared_class,
-    .make_value = &make_value<kValSetMgmDiffChnlParameters>,
     .wrong_record = kWrongConnectionRecord,
     .wrong_length = kWrongOldLength,
     .source = "SB_Con_AttrSetMgmtDiffChnlParameters"};
@@ -85,7 +79,6 @@ inline constexpr ComplexAttributeSpec kAttrSuppCDMAChannels{.name = "SB_Con_Attr
                                                             .clause = "8.7",
                                                             .id = 0x04,
                                                             .values = &ValueOf<kValSuppCDMAChannels>::shared_class,
-                                                            .make_value = &make_value<kValSuppCDMAChannels>,
                                                             .search = &kSupportedChannelsSearch,
                                                             .wrong_record = kWrongConnectionRecord};
 using SB_Con_AttrSuppCDMAChannels = ComplexAttributeOf<kAttrSuppCDMAChannels>;
@@ -96,16 +89,14 @@ inline constexpr ComplexAttributeSpec kAttrPriorSession{.name = "SB_Ses_AttrPrio
                                                         .id = 0x1000,
                                                         .id_bits = 16,
                                                         .values = &ValueOf<kValPriorSession>::shared_class,
-                                                        .make_value = &make_value<kValPriorSession>,
                                                         .wrong_record = kWrongRecord};
 using SB_Ses_AttrPriorSession = ComplexAttributeOf<kAttrPriorSession>;
 
 inline constexpr ComplexAttributeSpec kAttrStreamConfig{.name = "SB_Str_AttrStreamConfig",
                                                         .summary = "StreamConfiguration",
-                                                        .clause = "4",
+                                                        .clause = "6",
                                                         .id = 0x00,
                                                         .values = &ValueOf<kValStreamConfig>::shared_class,
-                                                        .make_value = &make_value<kValStreamConfig>,
                                                         .wrong_record = kWrongRecord,
                                                         .wrong_length = kWrongOldLength};
 using SB_Str_AttrStreamConfig = ComplexAttributeOf<kAttrStreamConfig>;

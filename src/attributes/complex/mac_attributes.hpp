@@ -13,7 +13,6 @@ inline constexpr ComplexAttributeSpec kAttrInitialConfiguration{
     .clause = "10.4",
     .id = 0x00,
     .values = &ValueOf<kValInitialConfiguration>::shared_class,
-    .make_value = &make_value<kValInitialConfiguration>,
     .wrong_record = kWrongRecord,
     .not_received = kNotReceivedProperty,
     .wrong_length = kWrongOldLength};
@@ -25,7 +24,6 @@ inline constexpr ComplexAttributeSpec kAttrPowerParameters{
     .clause = "10.4",
     .id = 0x01,
     .values = &ValueOf<kValPowerParameters>::shared_class,
-    .make_value = &make_value<kValPowerParameters>,
     .wrong_record = "PowerParameter Attribute string length is incorrect.",
     .not_received = kNotReceivedProperty,
     .wrong_length = kWrongOldLength};
@@ -37,7 +35,6 @@ inline constexpr ComplexAttributeSpec kAttrHandoffDelays{
     .clause = "10.6",
     .id = 0x00,
     .values = &ValueOf<kValHandoffDelays>::shared_class,
-    .make_value = &make_value<kValHandoffDelays>,
     .wrong_record = "Handoffdelays Attribute string length is incorrect. ",
     .not_received = kNotReceivedProperty,
     .wrong_length = kWrongOldLength};
@@ -48,7 +45,6 @@ inline constexpr ComplexAttributeSpec kAttrDRCLock{.name = "SB_Mac_AttrDRCLock",
                                                    .clause = "10.6",
                                                    .id = 0x01,
                                                    .values = &ValueOf<kValDRCLock>::shared_class,
-                                                   .make_value = &make_value<kValDRCLock>,
                                                    .wrong_record = "Error:Attribute string length is incorrect. ",
                                                    .not_received = kNotReceivedProperty,
                                                    .wrong_length = kWrongOldLength};
@@ -60,7 +56,6 @@ inline constexpr ComplexAttributeSpec kAttrRTCPowerParameters{
     .clause = "10.8",
     .id = 0x00,
     .values = &ValueOf<kValRTCPowerParameters>::shared_class,
-    .make_value = &make_value<kValRTCPowerParameters>,
     .wrong_record = "PowerParameter Attribute string length is incorrect.",
     .not_received = kNotReceivedProperty,
     .wrong_length = kWrongOldLength};
@@ -72,7 +67,6 @@ inline constexpr ComplexAttributeSpec kAttrRateParameters{
     .clause = "10.8",
     .id = 0x01,
     .values = &ValueOf<kValRateParameters>::shared_class,
-    .make_value = &make_value<kValRateParameters>,
     .wrong_record = "RateParameter Attribute string length incorrect.",
     .not_received = kNotReceivedProperty,
     .wrong_length = kWrongOldLength};
@@ -84,7 +78,6 @@ inline constexpr ComplexAttributeSpec kAttrMaxMACFlows{.name = "SB_Mac_AttrMaxMA
                                                        .id = 0x0014,
                                                        .id_bits = 16,
                                                        .values = &ValueOf<kValMaxMACFlows>::shared_class,
-                                                       .make_value = &make_value<kValMaxMACFlows>,
                                                        .wrong_record = kWrongRecord};
 using SB_Mac_AttrMaxMACFlows = ComplexAttributeOf<kAttrMaxMACFlows>;
 
@@ -95,7 +88,6 @@ inline constexpr ComplexAttributeSpec kAttrAssociatedFlowsNN{.name = "SB_MAC_Att
                                                              .id_bits = 16,
                                                              .id_settable = true,
                                                              .values = &ValueOf<kValAssociatedFlowsNN>::shared_class,
-                                                             .make_value = &make_value<kValAssociatedFlowsNN>,
                                                              .wrong_record = kWrongRecord};
 using SB_MAC_AttrAssociatedFlowsNN = ComplexAttributeOf<kAttrAssociatedFlowsNN>;
 

@@ -69,7 +69,8 @@ inline constexpr NegotiationSpec kConfigurationResponse{.name = "SB_MsgConfigura
                                                         .transaction_id = "00000000",
                                                         .members = kConfigurationResponseMembers,
                                                         .message = "ConfigurationResponse",
-                                                        .lets_message_string = true};
+                                                        .lets_message_string = true,
+                                                        .names_accepted = true};
 using SB_MsgConfigurationResponse = NegotiationOf<kConfigurationResponse>;
 
 inline constexpr NegotiationMember kAttributeUpdateRequestMembers[] = {

@@ -53,6 +53,7 @@ struct NegotiationSpec {
   /// The record list is there as soon as a message is received, not only once the message is decoded by name.
   bool lists_at_once = false;
   bool lets_message_string = false;
+  bool names_accepted = false;  ///< records hold what is accepted: a ValueID, or a value
 };
 
 }  // namespace vorlan

@@ -143,7 +143,8 @@ using SB_App_ValFlowNNTimersRev = ValueOf<kValFlowNNTimersRev>;
 
 inline constexpr RecordField kFlowNNReservationFields[] = {
     kValueIdField,
-    fixed("PRstr_ReservationCount", 8, {}, nullptr, "The number of reservations."),
+    // Flow 00, the one of a new attribute, carries the default reservation.
+    fixed("PRstr_ReservationCount", 8, "00000001", nullptr, "The number of reservations."),
     {.name = "PRstr_ReservationLabel",
      .bits = 8,
      .initial = "11111111",

@@ -32,6 +32,8 @@ class Record {
   void let(std::size_t field, At at, std::string_view value);
   /// What let() would refuse.
   void check(std::size_t field, At at, std::string_view value) const;
+  /// The width that a setter takes now.
+  [[nodiscard]] std::size_t width(std::size_t field, std::size_t index = 0) const noexcept;
   /// How many elements a list has now, or a table's row.
   [[nodiscard]] std::size_t count(std::size_t field) const noexcept;
   [[nodiscard]] std::size_t inner_count(std::size_t field, std::size_t index) const noexcept;
@@ -56,7 +58,6 @@ class Record {
 
   [[nodiscard]] std::string* element(std::size_t field, At at) noexcept;
   [[nodiscard]] const std::string* element(std::size_t field, At at) const noexcept;
-  [[nodiscard]] std::size_t width(std::size_t field, std::size_t index) const noexcept;
   void count_changed(std::size_t field, std::size_t index, std::size_t count);
   [[noreturn]] void refuse_index(std::size_t field, At at) const;
   [[noreturn]] void raise(std::size_t field, At at, std::string_view text) const;

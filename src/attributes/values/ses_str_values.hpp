@@ -1,4 +1,4 @@
-// Value records of the session and stream layers (C.S0024-A 5.4, 4).
+// Value records of the session and stream layers (C.S0024-A 5.4, 6).
 #pragma once
 
 #include "attributes/values/common_fields.hpp"
@@ -53,7 +53,7 @@ inline constexpr RecordField kValStreamConfigFields[] = {
 };
 inline constexpr ValueSpec kValStreamConfig{.name = "SB_Str_ValStreamConfig",
                                             .summary = "A value of StreamConfiguration",
-                                            .clause = "4",
+                                            .clause = "6",
                                             .fields = kValStreamConfigFields};
 using SB_Str_ValStreamConfig = ValueOf<kValStreamConfig>;
 

@@ -94,8 +94,9 @@ Value AttributeValue::invoke_member(int index, Access access, std::span<Value> a
     case ValueClass::Action::Build: return build(!arguments.empty() && arguments[0].to_boolean());
     case ValueClass::Action::LengthAt: {
       const std::int16_t position = arguments[1].to_integer();
-      return static_cast<std::int16_t>(
-          length_at(arguments[0].to_text(), position > 0 ? static_cast<std::size_t>(position) : 0));
+      const std::size_t length =
+          length_at(arguments[0].to_text(), position > 0 ? static_cast<std::size_t>(position) : 0);
+      return Value(static_cast<std::int32_t>(length)).to_integer();
     }
     case ValueClass::Action::Initialize: record_.reset(); return {};
     case ValueClass::Action::Operation: class_.spec().operations[member.field].run(record_); return {};

@@ -1,0 +1,25 @@
+// encode and decode for attributes, their values, and the messages that carry them.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "automation/registry.hpp"
+
+namespace vorlan::cli {
+
+/// Builds from assignments and prints. A complex attribute takes the fields of one value record, too, and builds with
+/// it unless ValueRecords is given. False if the object is of another kind.
+bool encode_record(const Registry& registry, const Ref<Object>& object, const std::vector<std::string>& assignments,
+                   bool json);
+/// Takes octets apart and prints. `where` names the protocol over which a message with attribute records travels; it
+/// may be empty. False if the object is of another kind.
+bool decode_record(const Registry& registry, const Ref<Object>& object, std::span<const std::uint8_t> octets,
+                   const std::string& where, bool json);
+/// The class of a message that carries attribute records, by its MessageID, which is the same in all protocols; null if
+/// it is another message.
+const Registry::Class* carrier_of_records(const Registry& registry, std::string_view bits);
+
+}  // namespace vorlan::cli
