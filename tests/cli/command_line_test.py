@@ -46,6 +46,24 @@ SUCCEEDS = [
     ("decode SB_Ses_MsgUATIComplete 0x02 0x07", ["(past the end)"]),
     ("decode SB_Ses_MsgUATIRequest 07:01", ["not the MessageID of SB_Ses_MsgUATIRequest"]),
     ("decode SB_App_MsgNak 02 00000100000400 00 NakType=1", ["FirstErased 33 00 0000 0000 0000 0000 0001 1"]),
+    # Attributes and values.
+    ("encode SB_Mac_AttrFRABlow AttrValue=5", ["03 FF FD 05"]),
+    ("encode SB_Mac_AttrDRCLock DRCLockLength=2 DRCLockPeriod=0", ["03 01 00 40", "DRCLockLength 26 10 2"]),
+    ("encode SB_Mac_AttrDRCLock ValueRecords=0x00400160", ["05 01 00 40 01 60", "Value 1"]),
+    ("encode SB_Con_ValSuppCDMAChannels BandSubClass[0,1]=7 BandClassCount=1 BandClass=3 BandSubClassCount=2",
+     ["00 01 18 10 00 38"]),
+    ("encode SB_Mac_ValT2PTransitionFunctionNN T2PUpT2PAxis00FRABAxis0=-3", ["-0.75 dB"]),
+    ("encode SB_TAS_AttrPacketRateMode MaxRate=5", ["03 01 00 05"]),
+    ("decode SB_Mac_AttrDRCLock 03 01 02", ["no whole number of value records"]),
+    ("describe SB_Mac_AttrDRCLock", ["DRCLockLength 2 01", "PRobj_DRCLockVal(Index As Integer) As Object"]),
+    # Messages that carry them: names depend on the protocol, and where records do not tell, all that fit are shown.
+    ("decode SB_MsgConfigurationRequest 50 07 0500140104020 3FE0250 02ABCD --protocol 4",
+     ["MaxMACFlows 17 SB_Mac_AttrMaxMACFlows", "BucketLevelMaxNN 65", "Unknown attribute 97", "0xABCD"]),
+    ("decode SB_MsgConfigurationRequest 50070400150101 --protocol 0x13", ["no whole number of value records"]),
+    ("decode SB_MsgConfigurationRequest 5007 0B0014010203040506070809 --protocol 4",
+     ["SB_Mac_AttrMaxMACFlows (ambiguous: or SB_Mac_AttrRTCPowerParameters)"]),
+    ("decode --protocol route-update 5107020401", ["SB_MsgConfigurationResponse", "Accepted 33 0000 0001 1"]),
+    ("encode SB_MsgConfigurationRequest TransactionId=7 AttributeRecords=0x03FFFD05", ["50 07 03 FF FD 05"]),
 ]
 
 # Command, exit code, what standard error must contain.
@@ -79,6 +97,12 @@ FAILS = [
     (ASSIGN + "--sector SECTOR_9", 1, "error 1 in SB_GlobalParameters: Sector Name: SECTOR 9 is invalid"),
     ("decode SB_Ses_MsgUATIRequest 0G", 1, "error 13"),
     ("decode SB_Ses_MsgUATIRequest 0x0", 1, "odd number"),
+    ("decode SB_MsgConfigurationRequest 5007 --protocol nonsense", 1, "no protocol is called nonsense"),
+    ("decode SB_Ses_MsgUATIRequest 0007 --protocol 16", 2, "not both"),
+    ("encode SB_Mac_ValDRCLock DRCLockPeriod=2", 1, '"2" does not fit into 1 bits'),
+    ("encode SB_Mac_ValDRCLock DRCLockPeriod=1 PRstr_DRCLockPeriod=0", 2, "twice"),
+    ("encode SB_Mac_ValDRCLock Colour=1", 1, "error 438 in SB_Mac_ValDRCLock"),
+    ("encode SB_Con_ValPagingMask MaskPurpose[2]=1 MaskCount=2", 1, "error 9"),
 ]
 
 
