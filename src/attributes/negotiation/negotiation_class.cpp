@@ -113,8 +113,13 @@ std::vector<MemberInfo> NegotiationClass::list_members() {
         if (wanted) add_getter(i);
       }
     } else if (row.action == NegotiationAction::Setting) {
-      add(row.action, row.name, row.summary, settings_++);
-      if (row.name.starts_with("PRlng")) members.back().type = ValueType::Long;
+      add(row.action, row.name, row.summary, settings_.size());
+      if (row.name.starts_with("PRlng")) {
+        members.back().type = ValueType::Long;
+        settings_.emplace_back(std::int32_t{0});
+      } else {
+        settings_.emplace_back(std::int16_t{0});
+      }
     } else {
       add(row.action, row.name, row.summary, 0);
       if (row.action == NegotiationAction::MessageString) members.back().lets = spec_.lets_message_string;

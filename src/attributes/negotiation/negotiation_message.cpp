@@ -194,11 +194,9 @@ Value NegotiationMessage::invoke_property(const NegotiationClass::Member& member
       return {};
     default: break;
   }
-  const bool is_long =
-      class_.info().members()[static_cast<std::size_t>(&member - &class_.member(0))].type == ValueType::Long;
   Value& setting = settings_[member.index];
-  if (!assigns) return setting.is_empty() ? (is_long ? Value(std::int32_t{0}) : Value(std::int16_t{0})) : setting;
-  setting = is_long ? Value(arguments[0].to_long()) : Value(arguments[0].to_integer());
+  if (!assigns) return setting;
+  setting = arguments[0].converted_to(setting.type());
   return {};
 }
 

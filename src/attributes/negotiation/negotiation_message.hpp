@@ -26,7 +26,8 @@ class NegotiationClass {
   [[nodiscard]] const NegotiationSpec& spec() const noexcept { return spec_; }
   [[nodiscard]] const ClassInfo& info() const noexcept { return info_; }
   [[nodiscard]] const Member& member(std::size_t index) const noexcept { return members_[index]; }
-  [[nodiscard]] std::size_t settings() const noexcept { return settings_; }
+  /// What a new object keeps for scripts: zeros of the right type.
+  [[nodiscard]] const std::vector<Value>& settings() const noexcept { return settings_; }
   [[nodiscard]] std::string source(std::string_view member) const;
   /// "ConfigurationRequest message object not set. ..."
   [[nodiscard]] std::string not_set() const;
@@ -42,7 +43,7 @@ class NegotiationClass {
 
   const NegotiationSpec& spec_;
   std::vector<Member> members_;
-  std::size_t settings_ = 0;
+  std::vector<Value> settings_;
   ClassInfo info_;
 };
 

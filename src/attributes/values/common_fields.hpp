@@ -15,7 +15,7 @@ inline constexpr RecordField kReservedField{.name = "PRstr_Reserved",
                                        .settable = false,
                                        .summary = "The bits that fill the last octet up."};
 
-/// A row of fixed width.
+/// A row of fixed width. Initial values are the defaults of the standard; fields without one start as zeros.
 constexpr RecordField fixed(std::string_view name, std::uint16_t bits, std::string_view initial = {},
                             const Meaning* meaning = nullptr, std::string_view summary = {}) {
   return {.name = name, .bits = bits, .initial = initial, .meaning = meaning, .summary = summary};
