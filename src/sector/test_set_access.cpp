@@ -1,0 +1,103 @@
+#include "sector/test_set_access.hpp"
+
+#include <algorithm>
+
+#include "automation/class_info.hpp"
+#include "automation/error.hpp"
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::string_view kSection = "TestSetMembers";
+
+/// As people look for what is missing.
+constexpr std::array<std::string_view, 14> kObjectNames{"PRobj_TestSet",
+                                                        "PRobj_TestReport",
+                                                        "the channel collection",
+                                                        "the forward channel",
+                                                        "the access channel",
+                                                        "the reverse traffic channel",
+                                                        "PRobj_EvSignalling",
+                                                        "the message collection",
+                                                        "PRobj_EvProtocolController",
+                                                        "PRobj_RadioChannelEmulator",
+                                                        "the emulator's velocity",
+                                                        "the emulator's paths",
+                                                        "the fading path",
+                                                        "the security object"};
+static_assert(kObjectNames.size() == static_cast<std::size_t>(TestSetObject::Security) + 1);
+
+std::string_view trimmed(std::string_view text) {
+  const auto begin = text.find_first_not_of(" \t");
+  if (begin == std::string_view::npos) return {};
+  return text.substr(begin, text.find_last_not_of(" \t") - begin + 1);
+}
+
+/// The section's lines, "Role=Name".
+Value section_lines(Object& configuration) {
+  try {
+    const std::string file = configuration.get("PRstr_FileName").to_text();
+    if (file.empty()) return {};
+    const Ref<Object> reader = configuration.get("PRobj_IniReader").to_object();
+    return deref(reader, "PRobj_IniReader").call("GetSectionStrings", kSection, file);
+  } catch (const Error& error) {
+    if (error.is(ErrorNumber::FileAccess)) throw;
+    return {};  // no section, no file, or a script's own configuration that reads none
+  }
+}
+
+}  // namespace
+
+TestSetAccess TestSetAccess::named_by(Object& configuration) {
+  TestSetAccess access;
+  const Value lines = section_lines(configuration);
+  if (const auto* array = lines.as<Value::Array>()) {
+    for (const Value& line : *array) access.rename(line.to_text());
+  }
+  return access;
+}
+
+void TestSetAccess::rename(std::string_view line) {
+  const auto equals = line.find('=');
+  const std::string_view role = trimmed(line.substr(0, equals));
+  const std::string_view name =
+      equals == std::string_view::npos ? std::string_view{} : trimmed(line.substr(equals + 1));
+  const auto refuse = [&](std::string_view why) {
+    raise(kSection, std::string("\"").append(role).append("\" in section TestSetMembers ").append(why));
+  };
+  const auto* const row = std::find_if(std::begin(kTestSetMembers), std::end(kTestSetMembers), [&](const auto& member) {
+    return equals_ignoring_case(member.role_name, role);
+  });
+  if (row == std::end(kTestSetMembers)) refuse("is no role of a test set's member.");
+  if (row->fixed) refuse("has a name that cannot be changed.");
+  if (name.empty()) refuse("has no name.");
+  names_.emplace_back(row->role, name);
+}
+
+std::string_view TestSetAccess::name(Role role) const noexcept {
+  for (const auto& [renamed, name] : names_) {
+    if (renamed == role) return name;
+  }
+  return test_set_member(role).name;
+}
+
+void TestSetAccess::let(Role role, const Ref<Object>& object, const Value& value) const {
+  std::array values{value.converted_to(test_set_member(role).type)};
+  invoke(role, object, Access::Let, values);
+}
+
+Value TestSetAccess::invoke(Role role, const Ref<Object>& object, Access access, std::span<Value> arguments) const {
+  if (!object) {
+    throw Error(ErrorNumber::ObjectNotSet, {}, kObjectNames[static_cast<std::size_t>(test_set_member(role).object)]);
+  }
+  return object->invoke(name(role), access, arguments);
+}
+
+Ref<Object> TestSetAccess::existing(Role role, const Value& object) {
+  Ref<Object> found = object.to_object();
+  if (!found) throw Error(ErrorNumber::ObjectNotSet, {}, test_set_member(role).summary);
+  return found;
+}
+
+}  // namespace vorlan
