@@ -1,11 +1,16 @@
 // What the command line can do. Each command prints to standard output; what goes wrong is thrown.
 #pragma once
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "automation/registry.hpp"
+
+namespace CLI {
+class App;
+}
 
 namespace vorlan::cli {
 
@@ -31,5 +36,9 @@ void encode(const Registry& registry, const EncodeOptions& options, bool json);
 void decode(const Registry& registry, const std::string& where, const std::vector<std::string>& words, bool json);
 /// The protocols and layers that decode knows, for --help.
 std::string protocol_list();
+/// Prints a trace, a file of JSON lines, as a ladder.
+void ladder(const Registry& registry, const std::string& path);
+/// Adds the command that serves objects on D-Bus; the result runs it if it was given.
+std::function<void(const Registry&)> add_serve(CLI::App& app);
 
 }  // namespace vorlan::cli

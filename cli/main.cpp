@@ -1,6 +1,7 @@
 // The command line: reads the arguments, runs a command, and makes an exit code of what went wrong: 1 for an automation
 // error, 2 for wrong usage.
 #include <cstdio>
+#include <functional>
 
 #include "CLI/CLI.hpp"
 #include "automation/error.hpp"
@@ -65,7 +66,11 @@ struct CommandLine {
                      "find the class by MessageID: a protocol's name or type number, or a layer")
         ->type_name("NAME");
     decode->footer(cli::protocol_list());
+    ladder->add_option("FILE", name, "a trace that Trace.WriteJsonLines has written")->required();
     for (CLI::App* command : {classes, describe, encode, decode}) command->add_flag("--json", json, "print JSON");
+#ifdef VORLAN_DBUS
+    serving = cli::add_serve(app);
+#endif
   }
 
   void run() {
@@ -74,6 +79,8 @@ struct CommandLine {
     if (describe->parsed()) cli::describe_class(registry, name, json);
     if (encode->parsed()) cli::encode(registry, encoding, json);
     if (decode->parsed()) cli::decode(registry, where, words, json);
+    if (ladder->parsed()) cli::ladder(registry, name);
+    if (serving) serving(registry);
   }
 
   CLI::App app{"Messages of the 1xEV-DO air interface: lists, describes, builds and takes them apart.", "vorlan"};
@@ -81,11 +88,13 @@ struct CommandLine {
   CLI::App* describe = app.add_subcommand("describe", "Show a class: fields, properties, methods, errors");
   CLI::App* encode = app.add_subcommand("encode", "Build a message and show its octets and fields");
   CLI::App* decode = app.add_subcommand("decode", "Take a received message apart");
+  CLI::App* ladder = app.add_subcommand("ladder", "Print a simulated test set's trace as a ladder");
   bool json = false;
   std::string name;
   std::string where;
   std::vector<std::string> words;
   cli::EncodeOptions encoding;
+  std::function<void(const Registry&)> serving;  ///< empty where there is no server
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "automation/error.hpp"
+#include "common/bits.hpp"
 
 namespace vorlan::simulator {
 
@@ -16,13 +17,6 @@ constexpr BoundMember kMembers[] = {
     property<&MessageObject::hex, &MessageObject::set_hex>("Hex",
                                                            "The octets as hexadecimal text; sets Length as well."),
 };
-
-int hex_digit(char c) noexcept {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
 
 }  // namespace
 
@@ -56,42 +50,31 @@ void MessageObject::write_octets(std::span<const std::uint8_t> octets) {
 }
 
 std::string MessageObject::hex() const {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string text;
-  for (int i = 0; i < (length_ + 7) / 8; ++i) {
-    const auto value = static_cast<std::size_t>(octet(static_cast<std::int16_t>(i)));
-    if (i > 0) text += ' ';
-    text += kDigits[value >> 4U];
-    text += kDigits[value & 0xFU];
-  }
-  return text;
+  Octets octets = octets_;
+  octets.resize(static_cast<std::size_t>((length_ + 7) / 8));
+  return hex_text(octets);
 }
 
 void MessageObject::set_hex(const std::string& text) {
-  std::vector<std::uint8_t> octets;
-  int high = -1;
-  for (const char c : text) {
-    if (c == ' ') continue;
-    const int digit = hex_digit(c);
-    if (digit < 0) throw Error(ErrorNumber::TypeMismatch, {}, "hexadecimal digits wanted");
-    if (high < 0) {
-      high = digit;
-    } else {
-      octets.push_back(static_cast<std::uint8_t>(high * 16 + digit));
-      high = -1;
-    }
-  }
-  if (high >= 0) throw Error(ErrorNumber::TypeMismatch, {}, "an even number of hexadecimal digits wanted");
+  Octets octets = parse_hex(text);
   if (octets.size() > kHighestIndex - 1) throw Error(ErrorNumber::Overflow);
   length_ = static_cast<std::int16_t>(octets.size() * 8);
   octets_ = std::move(octets);
 }
 
-std::span<const ClassEntry> classes() noexcept {
-  static constexpr ClassEntry kClasses[] = {
-      {"MessageObject", &MessageObject::info, [](Platform&) -> Ref<Object> { return make<MessageObject>(); }},
-  };
-  return kClasses;
+Octets octets_of(Object& message) {
+  const auto length = message.get("Length").to_integer();
+  if (length < 0) throw Error(ErrorNumber::InvalidCall, {}, "a message has no negative length");
+  Octets octets(octets_for(static_cast<std::size_t>(length)));
+  if (OctetBuffer* const buffer = message.octet_buffer()) {
+    const auto held = buffer->octets();
+    std::copy_n(held.begin(), std::min(held.size(), octets.size()), octets.begin());
+    return octets;
+  }
+  for (std::size_t i = 0; i < octets.size(); ++i) {
+    octets[i] = static_cast<std::uint8_t>(message.get("Octet", static_cast<std::int16_t>(i)).to_integer());
+  }
+  return octets;
 }
 
 }  // namespace vorlan::simulator

@@ -2,12 +2,13 @@
 // is no test set.
 #pragma once
 
-#include <vector>
-
 #include "automation/bind.hpp"
-#include "automation/registry.hpp"
+#include "simulator/classes.hpp"
+#include "simulator/octets.hpp"
 
 namespace vorlan::simulator {
+
+inline constexpr std::size_t kMostMessageBits = 32767;
 
 /// `Length` in bits and `Octet(index)`, 0 to 255. Octets past those written read as 0; a bit string of 32767 bits is
 /// the longest.
@@ -16,8 +17,8 @@ class MessageObject final : public BoundObject<MessageObject>, public OctetBuffe
   MessageObject() = default;
   explicit MessageObject(std::span<const std::uint8_t> octets);
 
-  [[nodiscard]] std::int16_t length() const noexcept { return length_; }
-  void set_length(std::int16_t bits);
+  [[nodiscard]] std::int16_t length() const noexcept override { return length_; }
+  void set_length(std::int16_t bits) override;
   [[nodiscard]] std::int16_t octet(std::int16_t index) const;
   void set_octet(std::int16_t index, std::int16_t value);
   /// The whole octets as hexadecimal text, "01 0A FF"; assigning sets the length too.
@@ -35,10 +36,10 @@ class MessageObject final : public BoundObject<MessageObject>, public OctetBuffe
 
  private:
   std::int16_t length_ = 0;
-  std::vector<std::uint8_t> octets_;
+  Octets octets_;
 };
 
-/// The simulated test set's classes, offered under the server name "VorlanSim".
-std::span<const ClassEntry> classes() noexcept;
+/// The octets of a message object, one of ours or a script's own, as many as its Length says.
+Octets octets_of(Object& message);
 
 }  // namespace vorlan::simulator

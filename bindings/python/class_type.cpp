@@ -48,7 +48,7 @@ const Member* ClassType::look_up(PyObject* name) {
     PyErr_Clear();
     return nullptr;
   }
-  const int index = info_.find({text, static_cast<std::size_t>(size)});
+  const int index = info_.find(std::string_view(text, static_cast<std::size_t>(size)));
   if (index < 0) return nullptr;
   const Member& member = members_[static_cast<std::size_t>(index)];
   if (PyUnicode_CHECK_INTERNED(name)) cache_.remember(name, member);

@@ -1,6 +1,7 @@
 #include "message_text.hpp"
 
 #include "codec/field_tree.hpp"
+#include "messages/dissection.hpp"
 #include "messages/message.hpp"
 
 namespace vorlan::python {

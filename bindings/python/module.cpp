@@ -5,6 +5,7 @@
 #include "listing.hpp"
 #include "member_handle.hpp"
 #include "object_type.hpp"
+#include "simulator/simulated_clock.hpp"
 #include "value_conversion.hpp"
 
 namespace vorlan::python {
@@ -94,6 +95,7 @@ void add_functions(State& state, py::module_& module) {
 void fill(py::module_& module) {
   auto* state = new State{.registry = module_registry(), .platform = native_platform()};
   state->platform.clock = make_interruptible(state->platform.clock);
+  simulator::offer_simulated_time(state->platform);
   module.doc() = kText;
   module.attr("__version__") = VORLAN_VERSION;
   add_values(*state, module);
