@@ -1,0 +1,76 @@
+#include "server/dbus/client_object.hpp"
+
+#include <array>
+
+#include "automation/error.hpp"
+#include "server/dbus/names.hpp"
+#include "server/dbus/wire_error.hpp"
+
+namespace vorlan::dbus {
+
+namespace {
+
+constexpr const char* kCalling = "call of a client's object";
+
+struct Answer {
+  Pump::Wait wait;
+  Message message;
+};
+
+int take_answer(sd_bus_message* message, void* answer, sd_bus_error*) noexcept {
+  auto& taken = *static_cast<Answer*>(answer);
+  taken.message = hold(message);
+  taken.wait.finish();
+  return 1;
+}
+
+}  // namespace
+
+const char* text_of(Access access) noexcept {
+  constexpr std::array kTexts{"Get", "Let", "Set", "Call"};
+  return kTexts[static_cast<std::size_t>(access)];
+}
+
+Ref<Object> ClientObject::of(Clients& clients, const Reference& name) {
+  const auto known = clients.objects.find({name.service, name.path});
+  if (known != clients.objects.end()) return Ref<Object>(known->second);
+  if (sd_bus_service_name_is_valid(name.service.c_str()) == 0) {
+    throw Error(ErrorNumber::TypeMismatch, {}, "\"" + name.service + "\" is no bus name");
+  }
+  return Ref<Object>::adopt(new ClientObject(clients, name));
+}
+
+ClientObject::ClientObject(Clients& clients, const Reference& name) : clients_(clients), name_(name) {
+  clients_.objects.emplace(std::pair(name.service, name.path), this);
+}
+
+ClientObject::~ClientObject() { clients_.objects.erase({name_.service, name_.path}); }
+
+Value ClientObject::invoke(std::string_view member, Access access, std::span<Value> arguments) {
+  const std::string name(member);
+  const Message call = new_call(clients_.bus, name_.service.c_str(), name_.path.c_str(), kObjectInterface, "Invoke");
+  check(sd_bus_message_append(call.get(), "ss", name.c_str(), text_of(access)), kCalling);
+  append_values(call.get(), arguments, clients_.references);
+
+  Answer answer;
+  sd_bus_slot* made = nullptr;
+  check(sd_bus_call_async(clients_.bus, &made, call.get(), &take_answer, &answer, UINT64_MAX), kCalling);
+  const Slot slot(made);
+  clients_.pump.until(answer.wait);
+
+  sd_bus_message* reply = answer.message.get();
+  if (sd_bus_message_is_method_error(reply, nullptr) > 0) throw read_error(reply, name_.path + "." + name);
+  const bool changes = sd_bus_message_has_signature(reply, "vav") > 0;
+  if (!changes && sd_bus_message_has_signature(reply, "v") == 0) {
+    throw Error(ErrorNumber::TypeMismatch, name_.path + "." + name, "Invoke returns \"vav\"");
+  }
+  Value result = read_value(reply, clients_.references);
+  if (changes) {
+    check(sd_bus_message_enter_container(reply, 'a', "v"), kCalling);
+    Value::Array changed = read_values(reply, clients_.references);
+    for (std::size_t i = 0; i < std::min(changed.size(), arguments.size()); ++i) arguments[i] = std::move(changed[i]);
+  }
+  return result;
+}
+
+}  // namespace vorlan::dbus

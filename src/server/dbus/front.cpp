@@ -1,0 +1,238 @@
+#include "server/dbus/front.hpp"
+
+#include <sys/epoll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+#include <system_error>
+
+#include "server/dbus/names.hpp"
+#include "server/dbus/worker_process.hpp"
+
+namespace vorlan::dbus {
+
+/// A client and its worker.
+struct Front::Session {
+  Front& front;
+  std::string client;  ///< unique bus name; or the bus name of an open session
+  WorkerProcess process;
+  std::string worker;            ///< its unique bus name; empty until it can be called
+  std::vector<Message> waiting;  ///< calls that came before that
+  Source ready;
+  Source worker_end;
+  Descriptor holder;  ///< of an open session: the process that it lasts as long as
+  Source holder_end;
+};
+
+namespace {
+
+constexpr const char* kOwnerOnly = "Only the user who owns the bus may use this server.";
+constexpr const char* kClientsLeaving =
+    "type='signal',sender='org.freedesktop.DBus',interface='org.freedesktop.DBus',member='NameOwnerChanged',arg2=''";
+
+/// A worker's answer to the call that was passed on to it goes back to the client as it is.
+int return_answer(sd_bus_message* answer, void* call, sd_bus_error*) noexcept {
+  const Message original(static_cast<sd_bus_message*>(call));
+  try {
+    const sd_bus_error* error = sd_bus_message_get_error(answer);
+    if (error == nullptr) {
+      const Message reply = new_return(original.get());
+      check(sd_bus_message_copy(reply.get(), answer, 1), "answer");
+      send_reply(original.get(), reply.get());
+      return 1;
+    }
+    sd_bus_reply_method_error(original.get(), error);
+  } catch (const std::system_error& error) {
+    send_refusal(original.get(), SD_BUS_ERROR_FAILED, error.what());
+  }
+  return 1;
+}
+
+Loop make_loop() {
+  sd_event* loop = nullptr;
+  check(sd_event_new(&loop), "event loop");
+  return Loop(loop);
+}
+
+}  // namespace
+
+Front::Front(const Registry& registry, std::string program)
+    : registry_(registry),
+      program_(std::move(program)),
+      interfaces_(registry),
+      loop_(make_loop()),
+      bus_(open_session_bus()),
+      name_(unique_name(bus_.get())),
+      owner_(bus_owner(bus_.get())) {
+  sigset_t signals;
+  sigemptyset(&signals);
+  for (const int signal : {SIGTERM, SIGINT, SIGCHLD}) sigaddset(&signals, signal);
+  sigprocmask(SIG_BLOCK, &signals, nullptr);
+  for (const int signal : {SIGTERM, SIGINT}) {
+    check(sd_event_add_signal(loop_.get(), nullptr, signal, nullptr, nullptr), "signals");
+  }
+  check(sd_bus_add_filter(
+            bus_.get(), nullptr,
+            [](sd_bus_message* message, void* front, sd_bus_error*) {
+              return static_cast<Front*>(front)->on_call(message);
+            },
+            this),
+        "calls");
+  // Before any client can know the server, so that no client leaves unnoticed.
+  check(sd_bus_add_match(
+            bus_.get(), nullptr, kClientsLeaving,
+            [](sd_bus_message* signal, void* front, sd_bus_error*) {
+              const char* name = nullptr;
+              if (sd_bus_message_read_basic(signal, 's', static_cast<void*>(&name)) > 0) {
+                static_cast<Front*>(front)->on_client_left(name);
+              }
+              return 0;
+            },
+            this),
+        "clients");
+  check(sd_bus_attach_event(bus_.get(), loop_.get(), SD_EVENT_PRIORITY_NORMAL), "event loop");
+  check(sd_bus_set_exit_on_disconnect(bus_.get(), 1), "event loop");
+  check(sd_bus_request_name(bus_.get(), kServerName, 0), kServerName);
+}
+
+Front::~Front() {
+  for (const auto& [client, session] : sessions_) {
+    kill(session->process.process, SIGKILL);
+    waitpid(session->process.process, nullptr, 0);
+  }
+}
+
+void Front::run() { check(sd_event_loop(loop_.get()), "event loop"); }
+
+int Front::on_call(sd_bus_message* call) noexcept {
+  if (sd_bus_message_is_method_call(call, nullptr, nullptr) <= 0) return 0;
+  if (sd_bus_message_is_method_call(call, kPeer, nullptr) > 0) return 0;
+  try {
+    dispatch(call);
+  } catch (const Refusal& refusal) {
+    send_refusal(call, refusal.name.c_str(), refusal.text.c_str());
+  } catch (const std::exception& error) {
+    send_refusal(call, SD_BUS_ERROR_FAILED, error.what());
+  }
+  return 1;
+}
+
+void Front::require_owner(sd_bus_message* call) const {
+  const char* sender = sd_bus_message_get_sender(call);
+  if (sessions_.contains(std::string_view(sender)) || is_of_user(bus_.get(), sender, owner_)) return;
+  throw Refusal{SD_BUS_ERROR_ACCESS_DENIED, kOwnerOnly};
+}
+
+void Front::create(sd_bus_message* call) {
+  require_signature(call, "s");
+  const std::string client = sd_bus_message_get_sender(call);
+  const auto known = sessions_.find(client);
+  pass_on(known != sessions_.end() ? *known->second : start(client), hold(call));
+}
+
+void Front::open_session(sd_bus_message* call) {
+  require_signature(call, "us");
+  std::uint32_t process = 0;
+  check(sd_bus_message_read_basic(call, 'u', &process), "process");
+  const std::string name = kSessionPrefix + read_text(call);
+  if (sd_bus_service_name_is_valid(name.c_str()) == 0 || sessions_.contains(name)) {
+    throw Refusal{SD_BUS_ERROR_INVALID_ARGS, name + " is taken, or not a name that the bus allows."};
+  }
+  const auto holder = static_cast<pid_t>(process);
+  if (!is_process_of(holder, owner_)) {
+    throw Refusal{SD_BUS_ERROR_INVALID_ARGS, "No process " + std::to_string(process) + " of the bus's owner."};
+  }
+  Descriptor watched = watch_process(holder);
+  Session& session = start(name);
+  session.holder = std::move(watched);
+  sd_event_source* source = nullptr;
+  check(sd_event_add_io(
+            loop_.get(), &source, session.holder.get(), EPOLLIN,
+            [](sd_event_source*, int, std::uint32_t, void* ended) {
+              const auto* held = static_cast<Session*>(ended);
+              held->front.on_client_left(held->client.c_str());
+              return 0;
+            },
+            &session),
+        "process");
+  session.holder_end.reset(source);
+  pass_on(session, hold(call));
+}
+
+Front::Session& Front::start(const std::string& client) {
+  auto made = std::unique_ptr<Session>(
+      new Session{*this, client, start_worker(program_, client, name_), {}, {}, {}, {}, Descriptor(), {}});
+  Session& session = *sessions_.emplace(client, std::move(made)).first->second;
+  sd_event_source* source = nullptr;
+  check(sd_event_add_child(
+            loop_.get(), &source, session.process.process, WEXITED,
+            [](sd_event_source*, const siginfo_t*, void* ended) {
+              auto* held = static_cast<Session*>(ended);
+              held->front.on_worker_end(*held);
+              return 0;
+            },
+            &session),
+        "worker");
+  session.worker_end.reset(source);
+  check(sd_event_add_io(
+            loop_.get(), &source, session.process.ready.get(), EPOLLIN,
+            [](sd_event_source*, int, std::uint32_t, void* started) {
+              auto* held = static_cast<Session*>(started);
+              held->front.on_ready(*held);
+              return 0;
+            },
+            &session),
+        "worker");
+  session.ready.reset(source);
+  return session;
+}
+
+void Front::on_ready(Session& session) {
+  std::array<char, 256> name{};
+  const ssize_t size = read(session.process.ready.get(), name.data(), name.size());
+  session.ready.reset();
+  session.process.ready = Descriptor();
+  // A worker that says nothing is about to end.
+  if (size <= 0) return;
+  session.worker.assign(name.data(), static_cast<std::size_t>(size));
+  for (Message& call : std::exchange(session.waiting, {})) {
+    const Message held = std::move(call);
+    try {
+      pass_on(session, hold(held.get()));
+    } catch (const std::system_error& error) {
+      send_refusal(held.get(), SD_BUS_ERROR_FAILED, error.what());
+    }
+  }
+}
+
+void Front::pass_on(Session& session, Message call) {
+  if (session.worker.empty()) return session.waiting.push_back(std::move(call));
+  if (sd_bus_message_is_method_call(call.get(), nullptr, "OpenSession") > 0) {
+    const Message reply = new_return(call.get());
+    check(sd_bus_message_append(reply.get(), "s", session.client.c_str()), "answer");
+    return send_reply(call.get(), reply.get());
+  }
+  const Message create = new_call(bus_.get(), session.worker.c_str(), kRootPath, kWorkerInterface, "Create");
+  check(sd_bus_message_append(create.get(), "s", read_text(call.get()).c_str()), "class");
+  check(sd_bus_call_async(bus_.get(), nullptr, create.get(), &return_answer, call.get(), UINT64_MAX), "worker");
+  static_cast<void>(call.release());  // return_answer has it now
+}
+
+void Front::on_worker_end(Session& session) {
+  for (const Message& call : session.waiting) {
+    send_refusal(call.get(), SD_BUS_ERROR_FAILED, "The worker ended before it could be called.");
+  }
+  sessions_.erase(sessions_.find(session.client));
+}
+
+void Front::on_client_left(const char* client) noexcept {
+  const auto left = sessions_.find(std::string_view(client));
+  if (left == sessions_.end()) return;
+  left->second->holder_end.reset();
+  // Its end is noticed like any other's.
+  kill(left->second->process.process, SIGKILL);
+}
+
+}  // namespace vorlan::dbus

@@ -1,0 +1,60 @@
+// The front process: owns the server's name on the bus, and gives each client a worker of its own.
+#pragma once
+
+#include <systemd/sd-event.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "automation/registry.hpp"
+#include "server/dbus/bus.hpp"
+#include "server/dbus/class_interface.hpp"
+
+namespace vorlan::dbus {
+
+using Loop = std::unique_ptr<sd_event, Dropper<&sd_event_unref>>;
+using Source = std::unique_ptr<sd_event_source, Dropper<&sd_event_source_disable_unref>>;
+
+/// The front executes nothing of the library, so that no call can keep it from its one duty: when a client leaves the
+/// bus its worker is killed at once, in whatever it is doing. Workers end with the front, too (see serve.cpp).
+class Front {
+ public:
+  /// `program` is what workers run; it is given "serve --worker <client> --front <name> <process>".
+  Front(const Registry& registry, std::string program);
+  Front(const Front&) = delete;
+  Front& operator=(const Front&) = delete;
+  ~Front();
+
+  /// Answers calls until it is told to end by a signal or the bus is gone.
+  void run();
+
+ private:
+  struct Session;
+
+  int on_call(sd_bus_message* call) noexcept;
+  void dispatch(sd_bus_message* call);
+  void introspect(sd_bus_message* call, const std::string& path);
+  void list_classes(sd_bus_message* call);
+  void create(sd_bus_message* call);
+  void open_session(sd_bus_message* call);
+  void require_owner(sd_bus_message* call) const;
+
+  Session& start(const std::string& client);
+  void pass_on(Session& session, Message call);
+  void on_ready(Session& session);
+  void on_worker_end(Session& session);
+  void on_client_left(const char* client) noexcept;
+
+  const Registry& registry_;
+  std::string program_;
+  ClassInterfaces interfaces_;
+  Loop loop_;
+  Bus bus_;
+  std::string name_;
+  unsigned owner_;
+  std::map<std::string, std::unique_ptr<Session>, std::less<>> sessions_;
+};
+
+}  // namespace vorlan::dbus
