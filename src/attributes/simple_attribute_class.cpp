@@ -74,7 +74,7 @@ std::string SimpleAttributeClass::text(AttributeMember member) const {
     case AttributeMember::Attribute:
       return spec_.wrong_record.empty() ? with_width(family.record, spec_.record_bits)
                                         : std::string(spec_.wrong_record);
-    case AttributeMember::Length: return std::string(family.length);
+    case AttributeMember::Length: return std::string(spec_.wrong_length.empty() ? family.length : spec_.wrong_length);
     case AttributeMember::AttribId: return with_width(family.id, spec_.id_bits);
     case AttributeMember::AttrValue:
       return spec_.wrong_value.empty() ? with_width(family.value, spec_.value_bits) : std::string(spec_.wrong_value);

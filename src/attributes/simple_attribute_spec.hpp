@@ -40,6 +40,7 @@ struct SimpleAttributeSpec {
 
   AttributeTexts texts = AttributeTexts::Usual;
   std::string_view wrong_record = {};  ///< where it is not the family's text
+  std::string_view wrong_length = {};
   std::string_view wrong_value = {};
   std::string_view wrong_high_octet = {};         ///< the AttributeID must keep its high octet; else this text
   std::string_view source = {};                   ///< class part of error sources; none: the name

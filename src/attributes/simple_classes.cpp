@@ -2,6 +2,7 @@
 #include "attributes/classes.hpp"
 #include "attributes/con_ses_simple_attributes.hpp"
 #include "attributes/mac_simple_attributes.hpp"
+#include "attributes/security_simple_attributes.hpp"
 
 namespace vorlan {
 
@@ -66,6 +67,8 @@ constexpr ClassEntry kClasses[] = {
     attribute_entry<kAttrQRABSelectNN>(),
     attribute_entry<kAttrBurstDurationFactorNN>(),
     attribute_entry<kAttrT2PFilterTCNN>(),
+    attribute_entry<kAttrSessionKeyLength>(),
+    attribute_entry<kAttrACAuthKeyLength>(),
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 // What holds for every message class of the registry: nothing here names one.
 #include <gtest/gtest.h>
 
+#include "common/conversions.hpp"
 #include "messages/dissection.hpp"
 #include "messages/message.hpp"
 #include "support/fake_sector.hpp"

@@ -33,16 +33,15 @@ std::string_view ComplexAttribute::values() const noexcept {
 
 void ComplexAttribute::receive(std::string_view record) {
   const ComplexAttributeSpec& spec = class_.spec();
-  const std::string source = class_.source("PRstr_Attribute");
+  const auto refuse = [&] { raise(class_.source("PRstr_Attribute"), spec.wrong_record); };
   const std::size_t header = kLengthBits + spec.id_bits;
-  if (record.size() < header) raise(source, spec.wrong_record);
+  if (record.size() < header) refuse();
   const std::string_view values = record.substr(header);
   if (spec.form == AttributeForm::Fields) {
-    if (values.size() != class_.fields().fixed_bits()) raise(source, spec.wrong_record);
-    fields_.receive(values, source, spec.wrong_record);
+    if (values.size() != class_.fields().fixed_bits() || !fields_.receive(values)) refuse();
   } else {
     std::vector<std::size_t> lengths = spec.values().split(values);
-    if (lengths.empty() && !values.empty()) raise(source, spec.wrong_record);
+    if (lengths.empty() && !values.empty()) refuse();
     lengths_ = std::move(lengths);
   }
   record_ = record;
@@ -72,7 +71,7 @@ std::string_view ComplexAttribute::length() const noexcept {
 }
 
 std::string_view ComplexAttribute::id() const noexcept {
-  return received_ ? std::string_view(record_).substr(kLengthBits, class_.spec().id_bits) : id_;
+  return received_ ? std::string_view(record_).substr(kLengthBits, class_.spec().id_bits) : id_.view();
 }
 
 bool ComplexAttribute::has_id(std::string_view id) const noexcept {
@@ -89,15 +88,16 @@ void ComplexAttribute::let_length(std::string_view bits) {
 
 void ComplexAttribute::let_id(std::string_view bits) {
   if (bits.size() != class_.spec().id_bits) raise(class_.source("PRstr_AttribID"), class_.spec().wrong_id);
-  id_ = bits;
+  id_ = ShortBits(bits);
 }
 
 std::string ComplexAttribute::build(std::string_view value_records) const {
   const std::string own = class_.spec().form == AttributeForm::Fields ? fields_.build() : std::string();
   const std::string_view values = class_.spec().form == AttributeForm::Fields ? own : value_records;
-  std::string record = octets_text(id_.size() + values.size());
-  record.reserve(record.size() + id_.size() + values.size());
-  return record.append(id_).append(values);
+  const std::string_view id = id_.view();
+  std::string record = octets_text(id.size() + values.size());
+  record.reserve(record.size() + id.size() + values.size());
+  return record.append(id).append(values);
 }
 
 Value ComplexAttribute::invoke_member(int index, Access access, std::span<Value> arguments) {

@@ -8,6 +8,7 @@
 
 #include "attributes/attribute.hpp"
 #include "attributes/complex/complex_attribute_spec.hpp"
+#include "attributes/short_bits.hpp"
 
 namespace vorlan {
 
@@ -78,7 +79,7 @@ class ComplexAttribute : public Attribute {
   /// Length, the stored AttributeID, and the value records; the fields as stored in classes that have fields.
   [[nodiscard]] std::string build(std::string_view value_records = {}) const;
 
-  [[nodiscard]] std::string_view stored_id() const noexcept override { return id_; }
+  [[nodiscard]] std::string_view stored_id() const noexcept override { return id_.view(); }
   [[nodiscard]] bool has_id(std::string_view id) const noexcept override;
   [[nodiscard]] std::vector<DissectedField> dissect(std::string_view whole, Extent record) const override;
 
@@ -93,7 +94,7 @@ class ComplexAttribute : public Attribute {
 
   const ComplexAttributeClass& class_;
   std::string length_;
-  std::string id_;
+  ShortBits id_;
   bool received_ = false;
   std::string record_;
   std::vector<std::size_t> lengths_;  ///< of the received value records

@@ -75,11 +75,13 @@ void NegotiationMessage::receive(Ref<Object> message_object) {
   std::string bits;
   read_whole_octets(*message_object, bits);
   message_object_ = std::move(message_object);
-  receive(bits);
+  take(std::move(bits));
 }
 
-void NegotiationMessage::receive(std::string_view bits) {
-  message_string_ = bits;
+void NegotiationMessage::receive(std::string_view bits) { take(std::string(bits)); }
+
+void NegotiationMessage::take(std::string bits) noexcept {
+  message_string_ = std::move(bits);
   received_ = true;
   index_known_ = false;
   listed_ = class_.spec().lists_at_once;
@@ -87,7 +89,7 @@ void NegotiationMessage::receive(std::string_view bits) {
 
 const AttributeRecordIndex& NegotiationMessage::index() const {
   if (!index_known_) {
-    index_ = AttributeRecordIndex(message_string_);
+    index_.read(message_string_);
     index_known_ = true;
   }
   return index_;
@@ -232,7 +234,7 @@ Value NegotiationMessage::invoke_member(int index, Access access, std::span<Valu
       return create_message(arguments[0].to_object(), arguments.size() > 1 ? arguments[1].to_text() : std::string());
     case FlowNumber: arguments[0] = flow_number(); return true;
     case Decode:
-      listed_count_ = static_cast<std::int16_t>(this->index().records().size());
+      listed_count_ = Value(static_cast<std::int32_t>(this->index().records().size())).to_integer();
       listed_ = true;
       return {};
     case RecordCount: return listed_count_;

@@ -90,6 +90,7 @@ class NegotiationMessage : public ClassObject {
   Value invoke_member(int member, Access access, std::span<Value> arguments) override;
 
  private:
+  void take(std::string bits) noexcept;
   [[nodiscard]] std::string_view checked_message_string() const;
   [[nodiscard]] std::string_view listed_record(std::size_t n) const;
   [[nodiscard]] std::string_view enhanced_idle_state() const;

@@ -2,52 +2,78 @@
 
 #include <algorithm>
 
+#include "common/bits.hpp"
+
 namespace vorlan {
 
 namespace {
 
 constexpr std::uint32_t kOctet = 8;
-
-bool is_bits(std::string_view text) { return text.find_first_not_of("01") == std::string_view::npos; }
+constexpr unsigned kIdShift = 32;  // of a key
 
 }  // namespace
 
-AttributeRecordIndex::AttributeRecordIndex(std::string_view message) {
-  for (std::uint32_t position = kFirstRecord; position < message.size();) {
-    const auto octets = static_cast<std::uint32_t>(small_value(message.substr(position, kOctet)));
-    const auto number = static_cast<std::uint32_t>(records_.size());
-    records_.push_back({position, (octets + 1) * kOctet});
-    const std::string_view id = message.substr(std::min<std::size_t>(position + kOctet, message.size()), 2 * kOctet);
-    if (id.size() >= kOctet) {
-      by_octet_.push_back(static_cast<std::uint32_t>(small_value(id.substr(0, kOctet)) << 16U) | number);
-    }
-    if (id.size() == 2 * kOctet) {
-      by_two_octets_.push_back(static_cast<std::uint32_t>(small_value(id) << 16U) | number);
-    }
-    position += (octets + 1) * kOctet;
+void AttributeRecordIndex::read(std::string_view message) {
+  octets_.resize(octets_for(message.size()));
+  pack_bits(message, octets_.data());
+  records_.clear();
+  searched_ = false;
+  for (Keys& keys : keys_) keys.clear();
+  for (auto position = kFirstRecord; position < message.size(); position += records_.back().width) {
+    records_.push_back({position, (octets_[position / kOctet] + 1U) * kOctet});
   }
-  std::sort(by_octet_.begin(), by_octet_.end());
-  std::sort(by_two_octets_.begin(), by_two_octets_.end());
+  octets_.resize(message.size() / kOctet);
 }
 
-AttributeRecordIndex::Range AttributeRecordIndex::matches(std::string_view id) const {
-  const Keys& keys = id.size() == kOctet ? by_octet_ : by_two_octets_;
-  if ((id.size() != kOctet && id.size() != 2 * kOctet) || !is_bits(id)) return {};
-  const auto wanted = static_cast<std::uint32_t>(small_value(id) << 16U);
-  const auto first = std::lower_bound(keys.begin(), keys.end(), wanted);
-  const auto last = std::upper_bound(first, keys.end(), wanted | 0xFFFFU);
-  return {&keys, static_cast<std::size_t>(first - keys.begin()), static_cast<std::size_t>(last - keys.begin())};
+std::optional<AttributeRecordIndex::Wanted> AttributeRecordIndex::wanted(std::string_view id) noexcept {
+  const bool is_bits = id.find_first_not_of("01") == std::string_view::npos;
+  if (!is_bits || (id.size() != kOctet && id.size() != 2 * kOctet)) return std::nullopt;
+  return Wanted{id.size() / kOctet, static_cast<std::uint32_t>(small_value(id))};
+}
+
+std::optional<std::uint32_t> AttributeRecordIndex::id_of(std::size_t record, std::size_t octets) const noexcept {
+  const std::size_t start = records_[record].offset / kOctet + 1;
+  if (start + octets > octets_.size()) return std::nullopt;
+  return octets == 1 ? octets_[start] : static_cast<std::uint32_t>(octets_[start] << kOctet | octets_[start + 1]);
+}
+
+const AttributeRecordIndex::Keys& AttributeRecordIndex::keys(std::size_t octets) const {
+  Keys& keys = keys_[octets - 1];
+  if (!keys.empty()) return keys;
+  keys.reserve(records_.size());
+  for (std::size_t i = 0; i < records_.size(); ++i) {
+    if (const auto id = id_of(i, octets)) keys.push_back(std::uint64_t{*id} << kIdShift | i);
+  }
+  std::sort(keys.begin(), keys.end());
+  return keys;
 }
 
 std::size_t AttributeRecordIndex::count(std::string_view id) const {
-  const Range range = matches(id);
-  return range.last - range.first;
+  const auto search = wanted(id);
+  if (!search) return 0;
+  const Keys& sorted = keys(search->octets);
+  const auto first = std::lower_bound(sorted.begin(), sorted.end(), std::uint64_t{search->id} << kIdShift);
+  const auto last = std::lower_bound(first, sorted.end(), (std::uint64_t{search->id} + 1) << kIdShift);
+  return static_cast<std::size_t>(last - first);
 }
 
 std::string_view AttributeRecordIndex::find(std::string_view message, std::string_view id, std::size_t n) const {
-  const Range range = matches(id);
-  if (n >= range.last - range.first) return {};
-  return slice(message, records_[(*range.keys)[range.first + n] & 0xFFFFU]);
+  const auto search = wanted(id);
+  if (!search || n >= records_.size()) return {};
+  if (!searched_) {
+    searched_ = true;
+    for (std::size_t i = 0; i < records_.size(); ++i) {
+      if (id_of(i, search->octets) == search->id && n-- == 0) return slice(message, records_[i]);
+    }
+    return {};
+  }
+  const Keys& sorted = keys(search->octets);
+  const std::uint64_t first_key = std::uint64_t{search->id} << kIdShift;
+  const auto first = std::lower_bound(sorted.begin(), sorted.end(), first_key);
+  if (n >= static_cast<std::size_t>(sorted.end() - first)) return {};
+  const std::uint64_t found = *(first + static_cast<std::ptrdiff_t>(n));
+  return found >> kIdShift == search->id ? slice(message, records_[static_cast<std::uint32_t>(found)])
+                                         : std::string_view{};
 }
 
 }  // namespace vorlan

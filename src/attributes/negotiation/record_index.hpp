@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -16,8 +17,10 @@ class AttributeRecordIndex {
   static constexpr std::uint32_t kFirstRecord = 16;  ///< bits before it
 
   AttributeRecordIndex() = default;
-  explicit AttributeRecordIndex(std::string_view message);
+  explicit AttributeRecordIndex(std::string_view message) { read(message); }
 
+  /// Forgets the message before.
+  void read(std::string_view message);
   [[nodiscard]] const std::vector<Extent>& records() const noexcept { return records_; }
 
   /// How many records have an AttributeID of 8 or 16 bits; none has one of another width. An 8-bit
@@ -28,18 +31,23 @@ class AttributeRecordIndex {
   [[nodiscard]] std::string_view find(std::string_view message, std::string_view id, std::size_t n) const;
 
  private:
-  /// AttributeID in the high half, number of the record in the low half: sorted, equal IDs stand in their order.
-  using Keys = std::vector<std::uint32_t>;
-  struct Range {
-    const Keys* keys = nullptr;
-    std::size_t first = 0;
-    std::size_t last = 0;
+  struct Wanted {
+    std::size_t octets;
+    std::uint32_t id;
   };
-  [[nodiscard]] Range matches(std::string_view id) const;
+  /// AttributeID in the high half, number of the record in the low half: sorted, equal IDs stand in their order.
+  using Keys = std::vector<std::uint64_t>;
 
+  [[nodiscard]] static std::optional<Wanted> wanted(std::string_view id) noexcept;
+  /// So many octets behind a record's Length; none if the message ends before.
+  [[nodiscard]] std::optional<std::uint32_t> id_of(std::size_t record, std::size_t octets) const noexcept;
+  [[nodiscard]] const Keys& keys(std::size_t octets) const;
+
+  std::vector<std::uint8_t> octets_;
   std::vector<Extent> records_;
-  Keys by_octet_;
-  Keys by_two_octets_;
+  // Many a message is asked for one record only: the first search goes by all of them, and the next ones sort.
+  mutable bool searched_ = false;
+  mutable Keys keys_[2];
 };
 
 }  // namespace vorlan

@@ -34,7 +34,9 @@ void decode_profile_type_1(Record& record) {
   const std::string operation = source(record, "Decode_ProfileType1");
   if (record.get("PRstr_ProfileType") != "00000001") raise(operation, "ProfileType is not 1.");
   Record profile(qos_profile());
-  profile.receive(record.get("PRstr_ProfileValue"), operation, "Length of <ProfileValue> field is not correct.");
+  if (!profile.receive(record.get("PRstr_ProfileValue"))) {
+    raise(operation, "Length of <ProfileValue> field is not correct.");
+  }
   record.let("PRstr_FlowPriority", profile.get("PRstr_FlowPriority"));
   record.let("PRstr_QoSAttribSetCount", profile.get("PRstr_QoSAttribSetCount"));
   const RecordClass& rows = record.record_class();

@@ -171,13 +171,13 @@ std::string Record::build() const {
 
 // --- received records
 
-void Record::receive(std::string_view bits, std::string_view source, std::string_view text, bool may_be_cut_off) {
-  std::string taken(bits);
+bool Record::receive(std::string_view bits, bool may_be_cut_off) {
   RecordLayout layout(*class_, bits);
-  if (!layout.is_whole() && !may_be_cut_off) vorlan::raise(source, text);
-  received_bits_ = std::move(taken);
+  if (!layout.is_whole() && !may_be_cut_off) return false;
+  received_bits_ = bits;
   layout_ = std::move(layout);
   received_ = true;
+  return true;
 }
 
 std::size_t Record::count(std::size_t field) const noexcept {

@@ -17,9 +17,8 @@ class Record {
 
   [[nodiscard]] const RecordClass& record_class() const noexcept { return *class_; }
 
-  /// Takes a received record; error 1 with `source` and `text` if it ends before its last field, unless parts of
-  /// fields may be missing.
-  void receive(std::string_view bits, std::string_view source, std::string_view text, bool may_be_cut_off = false);
+  /// Takes a received record; false if it ends before its last field, unless parts of fields may be missing.
+  [[nodiscard]] bool receive(std::string_view bits, bool may_be_cut_off = false);
   [[nodiscard]] std::string_view received_bits() const noexcept { return received_bits_; }
   [[nodiscard]] bool received() const noexcept { return received_; }
   /// Which of the two the getters read. Error 1 where there is no received record to read.

@@ -14,9 +14,12 @@ std::int16_t index_of(std::span<const RecordField> rows, std::string_view name) 
 std::string_view bare(std::string_view name) { return name.starts_with("PR") ? name.substr(name.find('_') + 1) : name; }
 
 /// The order in which a walk comes by.
-auto order(const RecordClass& record, std::size_t field, At at) {
-  return std::tuple<std::size_t, std::size_t, std::size_t, std::size_t>(record.field(field).group, at.index, field,
-                                                                        at.inner);
+bool comes_before(const RecordLayout::Visit& visit, const RecordLayout::Visit& other) noexcept {
+  return std::tie(visit.group, visit.at.index, visit.field, visit.at.inner) <
+         std::tie(other.group, other.at.index, other.field, other.at.inner);
+}
+bool is_same(const RecordLayout::Visit& visit, const RecordLayout::Visit& other) noexcept {
+  return visit.field == other.field && visit.at.index == other.at.index && visit.at.inner == other.at.inner;
 }
 
 std::string width_text(const RecordField& row) {
@@ -170,6 +173,7 @@ std::string element_name(std::string_view pattern, At at) {
 }
 
 RecordLayout::RecordLayout(const RecordClass& record, std::string_view bits) : record_(&record), bits_(bits) {
+  visits_.reserve(record.fields().size());
   walk(record, *this);
 }
 
@@ -181,6 +185,7 @@ bool RecordLayout::done() noexcept {
 
 void RecordLayout::visit(std::size_t field, At at, std::size_t width) {
   visits_.push_back({static_cast<std::uint16_t>(field),
+                     record_->field(field).group,
                      at,
                      {static_cast<std::uint32_t>(position_), static_cast<std::uint32_t>(width), true}});
   position_ += width;
@@ -189,11 +194,12 @@ void RecordLayout::visit(std::size_t field, At at, std::size_t width) {
 }
 
 const Extent* RecordLayout::find(std::size_t field, At at) const noexcept {
-  const auto wanted = order(*record_, field, at);
-  const auto found = std::lower_bound(visits_.begin(), visits_.end(), wanted, [&](const Visit& visit, const auto& key) {
-    return order(*record_, visit.field, visit.at) < key;
-  });
-  return found != visits_.end() && order(*record_, found->field, found->at) == wanted ? &found->extent : nullptr;
+  if (record_ == nullptr) return nullptr;
+  const Visit wanted{static_cast<std::uint16_t>(field), record_->field(field).group, at, {}};
+  // Before the first list and where nothing is left out, a field stands where its row does.
+  if (field < visits_.size() && is_same(visits_[field], wanted)) return &visits_[field].extent;
+  const auto found = std::lower_bound(visits_.begin(), visits_.end(), wanted, comes_before);
+  return found != visits_.end() && is_same(*found, wanted) ? &found->extent : nullptr;
 }
 
 std::string_view RecordLayout::value(std::size_t field, std::size_t index) const noexcept {

@@ -139,6 +139,7 @@ class RecordLayout {
  public:
   struct Visit {
     std::uint16_t field;
+    std::uint16_t group;  ///< of the field
     At at;
     Extent extent;
   };

@@ -22,7 +22,9 @@ AttributeValue::AttributeValue(const ValueClass& value_class)
 void AttributeValue::receive(std::string_view bits) {
   const auto shorter = class_.spec().shorter_records;
   const bool may_be_cut_off = std::find(shorter.begin(), shorter.end(), bits.size()) != shorter.end();
-  record_.receive(bits, class_.source("PRstr_ValString"), "Length of ValString is not correct.", may_be_cut_off);
+  if (!record_.receive(bits, may_be_cut_off)) {
+    raise(class_.source("PRstr_ValString"), "Length of ValString is not correct.");
+  }
 }
 
 std::string AttributeValue::build(bool id_alone) const {
