@@ -4,6 +4,8 @@
 
 #include "automation/error.hpp"
 #include "cli/commands.hpp"
+#include "cli/record_codec.hpp"
+#include "common/bits.hpp"
 #include "nlohmann/json.hpp"
 #include "simulator/trace/ladder.hpp"
 
@@ -25,6 +27,16 @@ TraceEntry parse_entry(const std::string& line) {
           .note = json.value("note", "")};
 }
 
+/// With every attribute by its name, as decode shows them.
+std::optional<simulator::LadderRung> carrier(const Registry& registry, int protocol,
+                                             std::span<const std::uint8_t> octets) {
+  std::string bits(octets.size() * 8, '0');
+  unpack_bits(octets.data(), bits.size(), bits.data());
+  auto found = dissect_carrier(registry, protocol, bits);
+  if (!found) return std::nullopt;
+  return simulator::LadderRung{std::move(found->first), std::move(found->second)};
+}
+
 }  // namespace
 
 void ladder(const Registry& registry, const std::string& path) {
@@ -41,7 +53,7 @@ void ladder(const Registry& registry, const std::string& path) {
                   path + ", line " + std::to_string(number) + " is no message of a trace: " + error.what());
     }
   }
-  std::fputs(simulator::ladder_text(entries, registry).c_str(), stdout);
+  std::fputs(simulator::ladder_text(entries, registry, carrier).c_str(), stdout);
 }
 
 }  // namespace vorlan::cli

@@ -186,6 +186,18 @@ bool decode_record(const Registry& registry, const Ref<Object>& object, std::spa
   return true;
 }
 
+std::optional<std::pair<std::string, std::vector<DissectedField>>> dissect_carrier(const Registry& registry,
+                                                                                   int protocol_type,
+                                                                                   std::string_view bits) {
+  const Registry::Class* carrier = carrier_of_records(registry, bits);
+  if (carrier == nullptr) return std::nullopt;
+  Platform nothing;
+  const Ref<Object> object = carrier->entry->create(nothing);
+  const auto& message = dynamic_cast<const NegotiationMessage&>(*object);
+  static const AttributeCatalogue kCatalogue(registry);
+  return std::pair(std::string(carrier->name()), dissect(message.message_class(), bits, kCatalogue, protocol_type));
+}
+
 const Registry::Class* carrier_of_records(const Registry& registry, std::string_view bits) {
   constexpr std::string_view kCarriers[] = {"SB_MsgConfigurationRequest", "SB_MsgConfigurationResponse",
                                             "SB_MsgAttributeUpdateRequest"};

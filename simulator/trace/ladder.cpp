@@ -61,8 +61,11 @@ std::string seconds_text(std::chrono::milliseconds time) {
 
 }  // namespace
 
-LadderRung ladder_rung(const TraceEntry& entry, const Registry& registry) {
+LadderRung ladder_rung(const TraceEntry& entry, const Registry& registry, CarrierDissector carriers) {
   if (entry.octets.empty()) return {"empty message", {}};
+  if (carriers != nullptr) {
+    if (auto rung = carriers(registry, entry.protocol, entry.octets)) return std::move(*rung);
+  }
   if (auto carrier = carrier_message(entry.protocol, entry.octets)) return std::move(*carrier);
   const std::string bits = bits_of(entry.octets);
   const auto found = candidates(entry, bits, registry);
@@ -75,12 +78,12 @@ LadderRung ladder_rung(const TraceEntry& entry, const Registry& registry) {
   return rung;
 }
 
-std::string ladder_text(std::span<const TraceEntry> entries, const Registry& registry) {
+std::string ladder_text(std::span<const TraceEntry> entries, const Registry& registry, CarrierDissector carriers) {
   constexpr std::string_view kIndent = "                 ";
   constexpr std::size_t kShown = 24;
   std::string text;
   for (const TraceEntry& entry : entries) {
-    const LadderRung rung = ladder_rung(entry, registry);
+    const LadderRung rung = ladder_rung(entry, registry, carriers);
     text.append(seconds_text(entry.time)).append(entry.forward ? "  AN --> AT  " : "  AN <-- AT  ").append(rung.name);
     text.append("  ").append(protocol_text(entry.protocol));
     if (!entry.label.empty()) text.append("  \"").append(entry.label).append("\"");

@@ -1,6 +1,8 @@
 // A trace as a ladder: every message with its direction, its name and its fields.
 #pragma once
 
+#include <optional>
+
 #include "automation/registry.hpp"
 #include "codec/field_tree.hpp"
 #include "simulator/trace/trace.hpp"
@@ -13,11 +15,16 @@ struct LadderRung {
   std::vector<DissectedField> fields;
 };
 
+/// Takes apart a message that carries attribute records or keys; nothing if it is another message.
+using CarrierDissector = std::optional<LadderRung> (*)(const Registry& registry, int protocol,
+                                                       std::span<const std::uint8_t> octets);
+
 /// Finds the message's class in the registry by protocol, MessageID and direction. Messages that carry attribute
-/// records or keys are known without a class.
-LadderRung ladder_rung(const TraceEntry& entry, const Registry& registry);
+/// records or keys are known without a class, by `carriers` first.
+LadderRung ladder_rung(const TraceEntry& entry, const Registry& registry, CarrierDissector carriers);
 
 /// The whole trace, with a line per message and its fields indented below it.
-std::string ladder_text(std::span<const TraceEntry> entries, const Registry& registry);
+std::string ladder_text(std::span<const TraceEntry> entries, const Registry& registry,
+                        CarrierDissector carriers = nullptr);
 
 }  // namespace vorlan::simulator

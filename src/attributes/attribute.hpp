@@ -20,6 +20,8 @@ class Attribute : public ClassObject {
   /// Whether the class takes a record with this AttributeID. Of per-flow and per-reservation attributes only the high
   /// octet counts.
   [[nodiscard]] virtual bool has_id(std::string_view id) const noexcept = 0;
+  /// Whether a record holds value records, each with a ValueID.
+  [[nodiscard]] virtual bool has_value_records() const noexcept { return false; }
   /// Takes a record apart for people; the object does not change. `first` is the place of the record in `whole`.
   [[nodiscard]] virtual std::vector<DissectedField> dissect(std::string_view whole, Extent record) const = 0;
 

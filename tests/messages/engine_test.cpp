@@ -127,6 +127,7 @@ TEST(MessageEngine, SurvivesAConfigurationThatCallsBack) {
 TEST(MessageEngine, JoinsMessagesOfAnyLength) {
   SB_Ses_MsgSessionClose message;
   message.initialize();
+  message.let<"PRstr_CloseReason">("00000000");
   message.let<"PRstr_MoreInfoLen">("11111111");
   std::string info;
   for (int octet = 0; octet < 255; ++octet) info += octet % 3 == 0 ? "10010110" : "01111010";

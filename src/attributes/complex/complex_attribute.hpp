@@ -81,6 +81,7 @@ class ComplexAttribute : public Attribute {
 
   [[nodiscard]] std::string_view stored_id() const noexcept override { return id_.view(); }
   [[nodiscard]] bool has_id(std::string_view id) const noexcept override;
+  [[nodiscard]] bool has_value_records() const noexcept override { return class_.spec().form != AttributeForm::Fields; }
   [[nodiscard]] std::vector<DissectedField> dissect(std::string_view whole, Extent record) const override;
 
   [[nodiscard]] const Record& fields() const noexcept { return fields_; }

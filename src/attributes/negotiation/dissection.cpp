@@ -32,6 +32,11 @@ bool belongs_to(const Attribute& attribute, int protocol_type) {
   });
 }
 
+bool takes(const Attribute& attribute, std::string_view record) {
+  const auto tree = attribute.dissect(record, {0, static_cast<std::uint32_t>(record.size())});
+  return std::all_of(tree.begin(), tree.end(), [](const auto& field) { return field.note.empty(); });
+}
+
 /// "MaxMACFlows" of SB_Mac_AttrMaxMACFlows.
 std::string bare_name(const Attribute& attribute) {
   constexpr std::string_view kMark = "_Attr";
@@ -77,15 +82,17 @@ AttributeCatalogue::AttributeCatalogue(const Registry& registry) {
 }
 
 std::vector<AttributeCatalogue::Candidate> AttributeCatalogue::candidates(std::string_view record,
-                                                                          std::optional<int> protocol_type) const {
+                                                                          std::optional<int> protocol_type,
+                                                                          bool accepted) const {
   std::vector<Candidate> taken;
   std::vector<Candidate> refused;
   for (const Ref<Attribute>& attribute : attributes_) {
     if (protocol_type && !belongs_to(*attribute, *protocol_type)) continue;
     for (const std::size_t id_bits : {kOctet, 2 * kOctet}) {
-      if (record.size() < kOctet + id_bits || !attribute->has_id(record.substr(kOctet, id_bits))) continue;
-      const auto tree = attribute->dissect(record, {0, static_cast<std::uint32_t>(record.size())});
-      const bool fits = std::all_of(tree.begin(), tree.end(), [](const auto& field) { return field.note.empty(); });
+      const std::size_t header = kOctet + id_bits;
+      if (record.size() <= header || !attribute->has_id(record.substr(kOctet, id_bits))) continue;
+      const bool fits =
+          accepted && attribute->has_value_records() ? record.size() == header + kOctet : takes(*attribute, record);
       (fits ? taken : refused).push_back({attribute.get(), id_bits});
     }
   }
@@ -101,7 +108,7 @@ std::vector<DissectedField> dissect(const NegotiationClass& message, std::string
   }
   const AttributeRecordIndex index(bits);
   for (const Extent& place : index.records()) {
-    const auto candidates = catalogue.candidates(slice(bits, place), protocol_type);
+    const auto candidates = catalogue.candidates(slice(bits, place), protocol_type, message.spec().names_accepted);
     tree.push_back(dissect_record(bits, place, message.spec().names_accepted, candidates));
     if (place.offset + place.width > bits.size()) tree.back().note = "past the end";
   }

@@ -23,7 +23,9 @@ class AttributeCatalogue {
   };
   /// What a record may be, of the attributes of a protocol type (of all, if there is none): first those whose class
   /// takes the record. A record does not tell how wide its AttributeID is, so that there may be several.
-  [[nodiscard]] std::vector<Candidate> candidates(std::string_view record, std::optional<int> protocol_type) const;
+  /// `accepted`: the record is one of a response, which holds a ValueID or a value.
+  [[nodiscard]] std::vector<Candidate> candidates(std::string_view record, std::optional<int> protocol_type,
+                                                  bool accepted) const;
 
  private:
   std::vector<Ref<Attribute>> attributes_;

@@ -11,9 +11,9 @@ inline constexpr RecordField kValueIdField{
 
 /// Fills the last octet up; only a received record has it to be read.
 inline constexpr RecordField kReservedField{.name = "PRstr_Reserved",
-                                       .width = to_octet(),
-                                       .settable = false,
-                                       .summary = "The bits that fill the last octet up."};
+                                            .width = to_octet(),
+                                            .settable = false,
+                                            .summary = "The bits that fill the last octet up."};
 
 /// A row of fixed width. Initial values are the defaults of the standard; fields without one start as zeros.
 constexpr RecordField fixed(std::string_view name, std::uint16_t bits, std::string_view initial = {},

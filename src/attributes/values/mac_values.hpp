@@ -65,7 +65,7 @@ inline constexpr ValueSpec kValRTCPowerParameters{.name = "SB_Mac_ValRTCPowerPar
                                                   .fields = kValRTCPowerParametersFields};
 using SB_Mac_ValRTCPowerParameters = ValueOf<kValRTCPowerParameters>;
 
-inline constexpr Meaning kProbability{.scale = 1.0 / 255, .summary = "1/255"};
+inline constexpr Meaning kProbability{.unit = "/ 255", .summary = "1/255"};
 
 inline constexpr RecordField kValRateParametersFields[] = {
     kValueIdField,
