@@ -38,7 +38,7 @@ TEST(EverySimpleAttribute, IsInTheTable) {
   for (const Registry::Class& cls : registry.classes()) {
     if (dynamic_cast<SimpleAttribute*>(create(cls.name()).get()) != nullptr) registered.insert(cls.name());
   }
-  EXPECT_EQ(listed.size(), 58U);
+  EXPECT_EQ(listed.size(), 60U);
   EXPECT_EQ(registered, listed);
 }
 
@@ -95,6 +95,10 @@ constexpr Texts kTexts[] = {
      "The length of argument passed should be equal to the length of AttrValue (length=#).  "},
     {"Length of attribute string should be # bits .", "Length of attribute string should be 8 bits .",
      "Length of <AttributeId> field should be # bits .", "Length of Attribute Value should not be more than # bits ."},
+    {"SessionKeyLength Attribute string should be # bits long.", " Attribute Length string should be 8 bits long. ", "",
+     "Attribute Value string should be # bits long."},
+    {"Length of attribute string should be # bits.", "Length of attribute should be 8 bits .", "",
+     "Length of attribute value  should be # bits ."},
 };
 
 std::string text(std::string_view pattern, std::size_t width) {

@@ -7,7 +7,7 @@
 
 namespace vorlan::test {
 
-enum AttributeFamily { kUsual, kBits, kEarly, kEarlySession, kVariable };
+enum AttributeFamily { kUsual, kBits, kEarly, kEarlySession, kVariable, kSessionKey, kAuthKey };
 
 struct AttributeCase {
   std::string_view name;
@@ -91,6 +91,8 @@ inline constexpr AttributeCase kAttributeCases[] = {
     {"SB_App_AttrFlowNNSequenceLengthFwd", 0xF100, 16, true, 8, false, "00000010", 3, 32},
     {"SB_App_AttrFlowNNSequenceLengthRev", 0xF000, 16, true, 8, false, "00000010", 3, 32},
     {"SB_App_AttrFlwNNSmlDlvyOBthRtsFwd", 0xE900, 16, true, 8, false, "00000000", 3, 32},
+    {"SB_Sec_AttrSessionKeyLength", 0x00, 8, false, 8, false, "00000000", 2, 24, kSessionKey},
+    {"SB_Sec_AttrACAuthKeyLength", 0x00, 8, false, 16, false, "0000000010100000", 3, 32, kAuthKey},
 };
 
 }  // namespace vorlan::test

@@ -51,7 +51,8 @@ inline constexpr FieldSpec kFTAPStatsRequestFields[] = {
     {.name = "AttributeRecords",
      .width = rest_of_message(),
      .build = testapp::join_records,
-     .meaning = &testapp::kFtapRecords},
+     .meaning = &kHex,
+     .summary = "The attributes whose statistics are meant: an octet each."},
 };
 inline constexpr MessageSpec kFTAPStatsClearRequest{
     .name = "SB_TAS_MsgFTAPStatsClearRequest",
