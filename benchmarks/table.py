@@ -37,6 +37,8 @@ TIMES = [
     ("Initialize of a sector", "InitializeSector", 5e6),
     ("vorlan describe, start to exit", "Describe", 15e6),
     ("simple attribute, the slowest: build, read back", "BuildAndReadSlowestSimpleAttribute", 300),
+    ("a whole session through library and simulator", "WholeSession", 1e6),
+    ("the same from Python", "whole session from Python", 3e6),
     ("T2PTransitionFunctionNN, 4 x 4: build, read back", "BuildAndReadT2PTransitionFunction", 10e3),
 ]
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
@@ -53,9 +55,12 @@ def google_benchmarks(build):
 
 
 def python_benchmarks(build, python):
-    run = subprocess.run([python, "-B", HERE / "python_property.py"], stdout=subprocess.PIPE, text=True,
-                         env={"PYTHONPATH": str(build / "python")})
-    return {name: float(figure) for name, figure in re.findall(r"^(.+?)\s+([\d.]+) ns$", run.stdout, re.MULTILINE)}
+    measured = {}
+    for program in ("python_property.py", "python_session.py"):
+        run = subprocess.run([python, "-B", HERE / program], stdout=subprocess.PIPE, text=True,
+                             env={"PYTHONPATH": str(build / "python")})
+        measured |= {name: float(figure) for name, figure in re.findall(r"^(.+?)\s+([\d.]+) ns$", run.stdout, re.MULTILINE)}
+    return measured
 
 
 def dbus_benchmarks(build):

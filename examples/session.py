@@ -23,10 +23,11 @@ def load_configuration(parameter_file, sector_name):
     return parameters
 
 
-def connect(test_set, parameters):
+def connect(test_set, parameters, name="SECTOR 0"):
     """A sector of the test set: every object that it works with is handed to it once."""
     sector = vorlan.CreateObject("Vorlan.SB_Sector")
     sector.PRobj_GlobalParameters = parameters
+    sector.PRstr_SectorName = name
     sector.PRobj_TestSet = test_set
     sector.PRobj_TestReport = test_set.TestReport
     sector.PRobj_FChCollection = test_set.ForwardChannels
@@ -34,7 +35,7 @@ def connect(test_set, parameters):
     sector.PRobj_AccChCollection = test_set.AccessChannels
     sector.PRobj_SubType1AccChCollection = test_set.SubType1AccessChannels
     sector.PRobj_SubType2AccChCollection = test_set.SubType2AccessChannels
-    sector.PRobj_RevTrafficChannel = test_set.ReverseTrafficChannels.Item("RTC_SECTOR 0")
+    sector.PRobj_RevTrafficChannel = test_set.ReverseTrafficChannels.Item(f"RTC_{name}")
     sector.PRobj_EvSignalling = test_set.Signalling
     sector.PRobj_EvProtocolController = test_set.ProtocolController
     sector.PRobj_RadioChannelEmulator = test_set.RadioChannelEmulator
@@ -95,7 +96,7 @@ def main():
     test_set = vorlan.CreateObject("VorlanSim.TestSet")
     if given.refuse is not None:
         test_set.AccessTerminal.Refuse(given.refuse)
-    sector = connect(test_set, load_configuration(given.config, given.sector))
+    sector = connect(test_set, load_configuration(given.config, given.sector), given.sector)
     failed = None
     try:
         run(test_set, sector)

@@ -1,6 +1,7 @@
 // Forward Test Application Protocol messages (C.S0029).
 #pragma once
 
+#include "codec/meanings.hpp"
 #include "messages/testapp/attribute_records.hpp"
 
 namespace vorlan {
