@@ -15,11 +15,18 @@ constexpr std::uint32_t kLengthBits = 8;
 std::string bracketed(std::size_t index) { return "[" + std::to_string(index) + "]"; }
 
 /// Length and AttributeID, and what is left behind them.
-Extent dissect_header(std::string_view whole, Extent record, std::size_t id_bits, std::vector<DissectedField>& tree) {
+Extent dissect_header(const Attribute& attribute, std::string_view whole, Extent record, std::size_t id_bits,
+                      std::vector<DissectedField>& tree) {
   const auto header = static_cast<std::uint32_t>(kLengthBits + id_bits);
   tree.push_back(dissected_leaf("Length", &kOctets, whole, {record.offset, kLengthBits}));
+  if (tree[0].note.empty() && kLengthBits * (1 + small_value(tree[0].bits)) != record.width) {
+    tree[0].note = "not the octets that follow";
+  }
   tree.push_back(
       dissected_leaf("AttributeID", &kHex, whole, {record.offset + kLengthBits, static_cast<std::uint32_t>(id_bits)}));
+  if (tree[1].note.empty() && !attribute.has_id(tree[1].bits)) {
+    tree[1].note = "not the AttributeID of " + std::string(attribute.class_info()->name());
+  }
   return {record.offset + header, record.width > header ? record.width - header : 0};
 }
 
@@ -65,17 +72,27 @@ std::vector<DissectedField> dissect(const RecordClass& record, std::string_view 
 
 std::vector<DissectedField> SimpleAttribute::dissect(std::string_view whole, Extent record) const {
   std::vector<DissectedField> tree;
-  const std::size_t id_bits = class_.spec().id_bits;
-  const Extent value = dissect_header(whole, record, id_bits, tree);
+  const SimpleAttributeSpec& spec = class_.spec();
+  constexpr std::uint32_t kWideBits = 16;
+  const bool is_wide = spec.wide_id != 0 && record.width == kLengthBits + kWideBits + spec.value_bits;
+  const Extent value = dissect_header(*this, whole, record, is_wide ? kWideBits : spec.id_bits, tree);
+  // A proposal of several subtypes: the class takes records of one, the air interface allows more.
+  if (spec.up_to && spec.value_bits == kWideBits && value.width > kWideBits && value.width % kWideBits == 0) {
+    for (std::uint32_t at = 0; at < value.width; at += kWideBits) {
+      tree.push_back(
+          dissected_leaf("AttrValue" + bracketed(at / kWideBits), nullptr, whole, {value.offset + at, kWideBits}));
+    }
+    return tree;
+  }
   tree.push_back(dissected_leaf("AttrValue", nullptr, whole, value));
-  if (value.width != class_.spec().value_bits) tree.back().note = "not as wide as the class says";
+  if (value.width != spec.value_bits) tree.back().note = "not as wide as the class says";
   return tree;
 }
 
 std::vector<DissectedField> ComplexAttribute::dissect(std::string_view whole, Extent record) const {
   std::vector<DissectedField> tree;
   const ComplexAttributeSpec& spec = class_.spec();
-  Extent rest = dissect_header(whole, record, spec.id_bits, tree);
+  Extent rest = dissect_header(*this, whole, record, spec.id_bits, tree);
   if (spec.form == AttributeForm::Fields) {
     for (DissectedField& field : vorlan::dissect(class_.fields(), whole, rest)) tree.push_back(std::move(field));
     return tree;

@@ -106,6 +106,8 @@ TEST(Value, IndicesOutsideTheGridAreRefused) {
   EXPECT_EQ(raised_by([&] { transition->call("Set_T2PAxis", std::int32_t{2}, "0000"); }),
             (Raised{1, "SB_Mac_ValT2PTransitionFunctionNN.PRstr_T2PAxis02",
                     "Length of <T2PAxis02> field should be 8 bits."}));
+  EXPECT_EQ(raised_by([&] { transition->call("Get_T2PAxis", std::int32_t{-1}); }).source,
+            "SB_Mac_ValT2PTransitionFunctionNN.PRstr_T2PAxis-1");
   bucket->call("Set_BucketFactorT2PAxisFRABAxis", std::int32_t{0}, std::int32_t{0}, "11111111");
   EXPECT_EQ(bucket->call("BuildValueRecord").to_text(), bits_of("00 12 00 1F E0"));
 }

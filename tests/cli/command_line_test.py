@@ -48,7 +48,7 @@ SUCCEEDS = [
     ("decode SB_App_MsgNak 02 00000100000400 00 NakType=1", ["FirstErased 33 00 0000 0000 0000 0000 0001 1"]),
     # Attributes and values.
     ("encode SB_Mac_AttrFRABlow AttrValue=5", ["03 FF FD 05"]),
-    ("encode SB_Mac_AttrDRCLock DRCLockLength=2 DRCLockPeriod=0", ["03 01 00 40", "DRCLockLength 26 10 2"]),
+    ("encode SB_Mac_AttrDRCLock DRCLockLength=2 DRCLockPeriod=0", ["03 01 00 40", "DRCLockLength 26 10 16 times"]),
     ("encode SB_Mac_AttrDRCLock ValueRecords=0x00400160", ["05 01 00 40 01 60", "Value 1"]),
     ("encode SB_Con_ValSuppCDMAChannels BandSubClass[0,1]=7 BandClassCount=1 BandClass=3 BandSubClassCount=2",
      ["00 01 18 10 00 38"]),
@@ -59,6 +59,8 @@ SUCCEEDS = [
     # Messages that carry them: names depend on the protocol, and where records do not tell, all that fit are shown.
     ("decode SB_MsgConfigurationRequest 50 07 0500140104020 3FE0250 02ABCD --protocol 4",
      ["MaxMACFlows 17 SB_Mac_AttrMaxMACFlows", "BucketLevelMaxNN 65", "Unknown attribute 97", "0xABCD"]),
+    ("decode SB_MsgConfigurationRequest 5007 06000400030000 0401100002 --protocol session-configuration",
+     ["ProtocolType 17 SB_Ses_AttrProtocolType, reverse traffic channel MAC", "AttrValue[1] 57", "PersonalityCount 73"]),
     ("decode SB_MsgConfigurationRequest 50070400150101 --protocol 0x13", ["no whole number of value records"]),
     ("decode SB_MsgConfigurationRequest 5007 0B0014010203040506070809 --protocol 4",
      ["SB_Mac_AttrMaxMACFlows (ambiguous: or SB_Mac_AttrRTCPowerParameters)"]),

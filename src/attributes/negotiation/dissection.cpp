@@ -19,11 +19,46 @@ struct ClauseTypes {
   int last;
 };
 constexpr ClauseTypes kClauseTypes[] = {
-    {"10.3", 0x01, 0x01},  {"10.4", 0x02, 0x02},      {"10.6", 0x03, 0x03},    {"10.7", 0x03, 0x03},
-    {"10.8", 0x04, 0x04},  {"10.11.7", 0x04, 0x04},   {"8.5", 0x0C, 0x0C},     {"8.7", 0x0E, 0x0E},
-    {"5.2.7", 0x10, 0x10}, {"5.4.7", 0x12, 0x12},     {"6", 0x13, 0x13},       {"3.5", 0x14, 0x17},
-    {"4", 0x14, 0x17},     {"C.S0063-A", 0x14, 0x17}, {"C.S0029", 0x14, 0x17},
+    {"10.3", 0x01, 0x01},      {"10.4", 0x02, 0x02},      {"10.6", 0x03, 0x03},    {"10.7", 0x03, 0x03},
+    {"10.8", 0x04, 0x04},      {"10.11.7", 0x04, 0x04},   {"8.5", 0x0C, 0x0C},     {"8.7", 0x0E, 0x0E},
+    {"5.2.7", 0x10, 0x10},     {"5.4.7", 0x12, 0x12},     {"6", 0x13, 0x13},       {"3.5", 0x14, 0x17},
+    {"4", 0x14, 0x17},         {"C.S0063-A", 0x14, 0x17}, {"C.S0029", 0x14, 0x17}, {"400-C 2.6", 0x05, 0x05},
+    {"400-C 2.8", 0x06, 0x06},
 };
+
+/// Attributes of the session configuration that no class is made for, and the protocols whose subtypes it proposes.
+constexpr int kSessionConfiguration = 0x12;
+constexpr Code kSessionAttributes[] = {
+    {0x0102, "SupportConfigurationLock"}, {0x0110, "PersonalityCount"}, {0x1001, "ATSupportedApplicationSubtypes"}};
+constexpr Code kProtocolTypes[] = {{0x00, "physical layer"},
+                                   {0x01, "control channel MAC"},
+                                   {0x02, "access channel MAC"},
+                                   {0x03, "forward traffic channel MAC"},
+                                   {0x04, "reverse traffic channel MAC"},
+                                   {0x05, "key exchange"},
+                                   {0x06, "authentication"},
+                                   {0x07, "encryption"},
+                                   {0x08, "security"},
+                                   {0x09, "packet consolidation"},
+                                   {0x0A, "air-link management"},
+                                   {0x0B, "initialization state"},
+                                   {0x0C, "idle state"},
+                                   {0x0D, "connected state"},
+                                   {0x0E, "route update"},
+                                   {0x0F, "overhead messages"},
+                                   {0x10, "session management"},
+                                   {0x11, "address management"},
+                                   {0x12, "session configuration"},
+                                   {0x13, "stream"},
+                                   {0x14, "stream 0 application"},
+                                   {0x15, "stream 1 application"},
+                                   {0x16, "stream 2 application"},
+                                   {0x17, "stream 3 application"}};
+
+std::string_view name_of(std::span<const Code> codes, std::size_t value) {
+  const auto found = std::find_if(codes.begin(), codes.end(), [&](const Code& code) { return code.value == value; });
+  return found == codes.end() ? std::string_view{} : found->text;
+}
 
 bool belongs_to(const Attribute& attribute, int protocol_type) {
   const std::string_view clause = attribute.class_info()->clause();
@@ -32,9 +67,9 @@ bool belongs_to(const Attribute& attribute, int protocol_type) {
   });
 }
 
-bool takes(const Attribute& attribute, std::string_view record) {
-  const auto tree = attribute.dissect(record, {0, static_cast<std::uint32_t>(record.size())});
-  return std::all_of(tree.begin(), tree.end(), [](const auto& field) { return field.note.empty(); });
+/// All but the Length, which says nothing about the attribute.
+bool takes(std::span<const DissectedField> tree) {
+  return std::all_of(tree.begin() + 1, tree.end(), [](const auto& field) { return field.note.empty(); });
 }
 
 /// "MaxMACFlows" of SB_Mac_AttrMaxMACFlows.
@@ -44,10 +79,12 @@ std::string bare_name(const Attribute& attribute) {
   return std::string(name.substr(name.find(kMark) + kMark.size()));
 }
 
-DissectedField dissect_record(std::string_view bits, Extent place, bool names_accepted,
+DissectedField dissect_record(std::string_view bits, Extent place, bool names_accepted, bool of_session,
                               std::span<const AttributeCatalogue::Candidate> candidates) {
   DissectedField node{.name = "Unknown attribute", .first = place.offset + std::size_t{1}};
+  const std::size_t id = small_value(slice(bits, {place.offset + kOctet, 2 * kOctet}));
   if (candidates.empty()) {
+    if (const std::string_view name = name_of(kSessionAttributes, id); of_session && !name.empty()) node.name = name;
     node.below = {dissected_leaf("Length", &kOctets, bits, {place.offset, kOctet}),
                   dissected_leaf("Octets", &kHex, bits, {place.offset + kOctet, place.width - kOctet})};
     return node;
@@ -55,6 +92,9 @@ DissectedField dissect_record(std::string_view bits, Extent place, bool names_ac
   const auto& [attribute, id_bits] = candidates.front();
   node.name = bare_name(*attribute);
   node.value = attribute->class_info()->name();
+  if (const std::string_view name = name_of(kProtocolTypes, id); of_session && !name.empty()) {
+    node.value.append(", ").append(name);
+  }
   for (const auto& other : candidates.subspan(1)) {
     node.note.append(node.note.empty() ? "ambiguous: or " : ", ").append(other.attribute->class_info()->name());
   }
@@ -91,8 +131,9 @@ std::vector<AttributeCatalogue::Candidate> AttributeCatalogue::candidates(std::s
     for (const std::size_t id_bits : {kOctet, 2 * kOctet}) {
       const std::size_t header = kOctet + id_bits;
       if (record.size() <= header || !attribute->has_id(record.substr(kOctet, id_bits))) continue;
-      const bool fits =
-          accepted && attribute->has_value_records() ? record.size() == header + kOctet : takes(*attribute, record);
+      const auto tree = attribute->dissect(record, {0, static_cast<std::uint32_t>(record.size())});
+      if (tree[1].bits.size() != id_bits) continue;  // of a class with two AttributeIDs: the other one
+      const bool fits = accepted && attribute->has_value_records() ? record.size() == header + kOctet : takes(tree);
       (fits ? taken : refused).push_back({attribute.get(), id_bits});
     }
   }
@@ -109,7 +150,8 @@ std::vector<DissectedField> dissect(const NegotiationClass& message, std::string
   const AttributeRecordIndex index(bits);
   for (const Extent& place : index.records()) {
     const auto candidates = catalogue.candidates(slice(bits, place), protocol_type, message.spec().names_accepted);
-    tree.push_back(dissect_record(bits, place, message.spec().names_accepted, candidates));
+    tree.push_back(
+        dissect_record(bits, place, message.spec().names_accepted, protocol_type == kSessionConfiguration, candidates));
     if (place.offset + place.width > bits.size()) tree.back().note = "past the end";
   }
   return tree;

@@ -80,6 +80,30 @@ std::string NegotiationClass::not_initialized() const {
   return "Class not initialized. Please call <Initialize> of " + std::string(spec_.message) + " Message first.";
 }
 
+std::string NegotiationClass::not_counted(std::string_view attribute_id) const {
+  return std::string("Message Object Not Set. GET count of attributes failed for ")
+      .append(attribute_id)
+      .append(" of ")
+      .append(spec_.counted)
+      .append(" Message");
+}
+
+std::string NegotiationClass::not_searched(std::string_view attribute_id) const {
+  return std::string("<MessageObject> property not set for AttributeId: ")
+      .append(attribute_id)
+      .append(" from ")
+      .append(spec_.message)
+      .append(" Message");
+}
+
+std::string NegotiationClass::no_records() const {
+  return std::string(spec_.message).append(" message has no attribute records.");
+}
+
+std::string NegotiationClass::no_flow() const {
+  return std::string(spec_.message).append(" message has no attribute record with a flow number.");
+}
+
 std::string NegotiationClass::failed(const AttributeGetter& getter) const {
   const std::string_view attribute = getter.attribute.empty() ? getter.name.substr(kPrefix.size()) : getter.attribute;
   const std::string_view message = getter.message.empty() ? spec_.counted : getter.message;
@@ -135,8 +159,35 @@ std::vector<ErrorInfo> NegotiationClass::list_errors() const {
        "let in encoder mode"},
       {source("PRstr_TransactionID"), "Length of <TransactionID> field should be 8 bits.", "let of another width"},
       {source("PRstr_MessageString"), not_set(), "get before a message is received"}};
+  constexpr std::string_view kTooEarly = "get before a message is received";
+  constexpr std::string_view kId = "<AttributeID>";  // stands for the one that is asked for
+  for (const NegotiationMember& row : spec_.members) {
+    const std::string member = source(row.name);
+    switch (row.action) {
+      case NegotiationAction::AttributeCount:
+        errors.push_back({member, not_counted(kId), std::string(kTooEarly)});
+        break;
+      case NegotiationAction::ValueId:
+      case NegotiationAction::AttributeValue:
+        errors.push_back({member, std::string(kWrongId), "get of another width"});
+        errors.push_back({member, not_searched(kId), std::string(kTooEarly)});
+        break;
+      case NegotiationAction::FlowNumber:
+        errors.push_back({member, not_set(), "call before a message is received"});
+        errors.push_back({member, no_records(), "call with 16 bits received"});
+        errors.push_back({member, no_flow(), "call with no such record received"});
+        break;
+      case NegotiationAction::Record:
+        errors.push_back({member, std::string(kNoEntry), "call with a number beyond the list, or before there is one"});
+        break;
+      case NegotiationAction::EnhancedIdleState:
+        errors.push_back({source(kEnhancedIdleStateSource), not_set(), std::string(kTooEarly)});
+        break;
+      default: break;
+    }
+  }
   for (const AttributeGetter& getter : spec_.getters) {
-    errors.push_back({source(getter), failed_without_message(getter), "get before a message is received"});
+    errors.push_back({source(getter), failed_without_message(getter), std::string(kTooEarly)});
     if (spec_.refuses_missing) errors.push_back({source(getter), failed(getter), "get of a record that is not there"});
   }
   return errors;

@@ -85,6 +85,7 @@ void NegotiationMessage::take(std::string bits) noexcept {
   received_ = true;
   index_known_ = false;
   listed_ = class_.spec().lists_at_once;
+  listed_count_ = 0;
 }
 
 const AttributeRecordIndex& NegotiationMessage::index() const {
@@ -114,23 +115,16 @@ std::string_view NegotiationMessage::record(std::string_view attribute_id, std::
 }
 
 std::size_t NegotiationMessage::count(std::string_view attribute_id) const {
-  if (!received_) {
-    raise(class_.source("PRint_AttributeCount"), "Message Object Not Set. GET count of attributes failed for " +
-                                                     std::string(attribute_id) + " of " +
-                                                     std::string(class_.spec().counted) + " Message");
-  }
+  if (!received_) raise(class_.source("PRint_AttributeCount"), class_.not_counted(attribute_id));
   return index().count(attribute_id);
 }
 
 std::string_view NegotiationMessage::accepted(std::string_view member, std::string_view attribute_id,
                                               std::size_t n) const {
   if (attribute_id.size() != kOctet && attribute_id.size() != 2 * kOctet) {
-    raise(class_.source(member), "Invalid Length of AttributeID. Length of parameter <AttributeID> should be 8 or 16.");
+    raise(class_.source(member), NegotiationClass::kWrongId);
   }
-  if (!received_) {
-    raise(class_.source(member), "<MessageObject> property not set for AttributeId: " + std::string(attribute_id) +
-                                     " from " + std::string(class_.spec().message) + " Message");
-  }
+  if (!received_) raise(class_.source(member), class_.not_searched(attribute_id));
   const std::string_view found = record(attribute_id, n);
   return found.substr(std::min(kOctet + attribute_id.size(), found.size()));
 }
@@ -150,9 +144,7 @@ Attribute& NegotiationMessage::attribute(const AttributeGetter& getter, std::siz
 std::int16_t NegotiationMessage::flow_number() const {
   const std::string source = class_.source("GetFlowNumber");
   if (message_string_.empty()) raise(source, class_.not_set());
-  if (message_string_.size() == AttributeRecordIndex::kFirstRecord) {
-    raise(source, std::string(class_.spec().message) + " message has no attribute records.");
-  }
+  if (message_string_.size() == AttributeRecordIndex::kFirstRecord) raise(source, class_.no_records());
   constexpr std::size_t kFlows = 32;
   std::int16_t flow = -1;
   for (const Extent& place : index().records()) {
@@ -160,21 +152,19 @@ std::int16_t NegotiationMessage::flow_number() const {
     const std::size_t low_octet = small_value(id.substr(std::min(kOctet, id.size())));
     if (id.size() == 2 * kOctet && low_octet < kFlows) flow = static_cast<std::int16_t>(low_octet);
   }
-  if (flow < 0)
-    raise(source, std::string(class_.spec().message) + " message has no attribute record with a flow number.");
+  if (flow < 0) raise(source, class_.no_flow());
   return flow;
 }
 
 std::string_view NegotiationMessage::listed_record(std::size_t n) const {
   if (!listed_ || n >= index().records().size()) {
-    raise(class_.source("ReturnAttributeRecord"), "Collection object has no entry for this index");
+    raise(class_.source("ReturnAttributeRecord"), NegotiationClass::kNoEntry);
   }
   return slice(message_string_, index().records()[n]);
 }
 
 std::string_view NegotiationMessage::enhanced_idle_state() const {
-  // The source is spelt so.
-  if (!received_) raise(class_.source("PRstr_Attrvalue"), class_.not_set());
+  if (!received_) raise(class_.source(NegotiationClass::kEnhancedIdleStateSource), class_.not_set());
   constexpr std::string_view kIdleStateProtocolType = "0000000000001100";
   const std::string_view found = record(kIdleStateProtocolType);
   return found.substr(std::min(kOctet + kIdleStateProtocolType.size(), found.size()));

@@ -32,6 +32,16 @@ class NegotiationClass {
   /// "ConfigurationRequest message object not set. ..."
   [[nodiscard]] std::string not_set() const;
   [[nodiscard]] std::string not_initialized() const;
+  /// PRint_AttributeCount, and the searches of a response, before a message is received.
+  [[nodiscard]] std::string not_counted(std::string_view attribute_id) const;
+  [[nodiscard]] std::string not_searched(std::string_view attribute_id) const;
+  [[nodiscard]] std::string no_records() const;
+  [[nodiscard]] std::string no_flow() const;
+  static constexpr std::string_view kWrongId =
+      "Invalid Length of AttributeID. Length of parameter <AttributeID> should be 8 or 16.";
+  /// Member part of the source of PRstr_EnhancedIdleStateAttrValue; it is spelt so.
+  static constexpr std::string_view kEnhancedIdleStateSource = "PRstr_Attrvalue";
+  static constexpr std::string_view kNoEntry = "Collection object has no entry for this index";
   /// "GET failed for ...", and the whole text where no message was received.
   [[nodiscard]] std::string failed(const AttributeGetter& getter) const;
   [[nodiscard]] std::string failed_without_message(const AttributeGetter& getter) const;
@@ -59,12 +69,13 @@ class NegotiationMessage : public ClassObject {
   /// The message object is only held. A non-empty encoder string is sent unchanged from then on.
   void initialize(Ref<Object> message_object = {}, std::string_view encoder_string = {});
   void let_transaction_id(std::string_view bits);  ///< 8 bits
-  /// Fills the message object with MessageID, TransactionID and the attribute records.
+  /// Fills the message object with MessageID, TransactionID and the attribute records. Error 1 before initialize(), 6
+  /// for a message of more than 32,767 bits, 91 without a message object.
   bool create_message(const Ref<Object>& message_object, std::string_view attribute_records);
   /// The bits that create_message would send.
   [[nodiscard]] std::string encode(std::string_view attribute_records) const;
 
-  /// Decodes a received message object: its whole octets, each read once.
+  /// Decodes a received message object: its whole octets, each read once. Error 91 without one.
   void receive(Ref<Object> message_object);
   /// Decodes a message given as bits.
   void receive(std::string_view bits);
@@ -76,14 +87,16 @@ class NegotiationMessage : public ClassObject {
 
   /// The n-th record, from 0, with an AttributeID of 8 or 16 bits, Length included; the empty text if there is none.
   [[nodiscard]] std::string_view record(std::string_view attribute_id, std::size_t n = 0) const;
+  /// How many there are. Error 1 before a message is received.
   [[nodiscard]] std::size_t count(std::string_view attribute_id) const;
   [[nodiscard]] const AttributeRecordIndex& index() const;
   /// The bits behind a record's AttributeID: the accepted ValueID, or the accepted value. Error 1 for an AttributeID of
   /// another width than 8 or 16, and before a message is received.
   [[nodiscard]] std::string_view accepted(std::string_view member, std::string_view attribute_id, std::size_t n) const;
-  /// The attribute that a getter returns, filled with the n-th record. There is one object, whatever n.
+  /// The attribute that a getter returns, filled with the n-th record. There is one object, whatever n. Error 1 before
+  /// a message is received, and for a record that is not there: with the attribute's own text, or the message's.
   Attribute& attribute(const AttributeGetter& getter, std::size_t n, std::string_view attribute_id = {});
-  /// The low octet of the last record's AttributeID that is below 32. Error 1 if there is none.
+  /// The low octet of the last 16-bit AttributeID with one below 32. Error 1 if there is none, or no message.
   [[nodiscard]] std::int16_t flow_number() const;
 
  protected:

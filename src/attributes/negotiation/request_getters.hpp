@@ -14,8 +14,14 @@ namespace vorlan {
 /// An attribute of a flow: searched by the AttributeID that the script names, else by the one that the object builds
 /// with.
 template <class T>
-constexpr AttributeGetter of_flow(std::string_view name, std::string_view attribute = {}) {
-  return {.name = name, .make = make_attribute<T>, .takes_id = true, .attribute = attribute};
+constexpr AttributeGetter of_flow(std::string_view name) {
+  return {.name = name, .make = make_attribute<T>, .takes_id = true};
+}
+/// The getters added last, whose texts say "AttrFlowNN..." where the others say "FlowNN...".
+constexpr AttributeGetter with_attr(AttributeGetter getter) {
+  constexpr std::string_view kPrefix = "PRobj_";
+  getter.attribute = getter.name.substr(kPrefix.size());
+  return getter;
 }
 /// An attribute with an AttributeID of its own.
 template <class T>
@@ -81,30 +87,22 @@ inline constexpr AttributeGetter kRequestGetters[] = {
     protocol_type("PRobj_AttrProtocolTypeATSupportedApplicationSubTypes", "0001000000000001"),
     fixed_id<SB_App_AttrMaxReservations>("PRobj_AttrMaxReservations", "0000000000000101"),
     fixed_id<SB_Con_AttrSmallSlotCycleAllowed>("PRobj_SmallSlotCyleAllowed", "11111111", "SlottedMode"),
-    of_flow<SB_App_AttrFlowNNActivatedFwd>("PRobj_AttrFlowNNActivatedFwd", "AttrFlowNNActivatedFwd"),
-    of_flow<SB_App_AttrFlowNNActivatedRev>("PRobj_AttrFlowNNActivatedRev", "AttrFlowNNActivatedRev"),
-    of_flow<SB_App_AttrFlowNNFlowProtocolPDUFwd>("PRobj_AttrFlowNNFlowProtocolPDUFwd", "AttrFlowNNFlowProtocolPDUFwd"),
-    of_flow<SB_App_AttrFlowNNFlowProtocolPDURev>("PRobj_AttrFlowNNFlowProtocolPDURev", "AttrFlowNNFlowProtocolPDURev"),
-    of_flow<SB_App_AttrFlwNNRoutePrtclPDUFwd>("PRobj_AttrFlowNNRouteProtocolPDUFwd", "AttrFlowNNRouteProtocolPDUFwd"),
-    of_flow<SB_App_AttrFlwNNRoutePrtclPDURev>("PRobj_AttrFlowNNRouteProtocolPDURev", "AttrFlowNNRouteProtocolPDURev"),
-    of_flow<SB_App_AttrATSuppFlwProtlPrmPP>("PRobj_AttrATSupportedFlowProtocolParametersPP",
-                                            "AttrATSupportedFlowProtocolParametersPP"),
-    of_flow<SB_App_AttrATSuppRutProtlPrmPP>("PRobj_AttrATSupportedRouteProtocolParametersPP",
-                                            "AttrATSupportedRouteProtocolParametersPP"),
-    of_flow<SB_App_AttrFlowNNFlwPrtclParmFwd>("PRobj_AttrFlowNNFlowProtocolParametersFwd",
-                                              "AttrFlowNNFlowProtocolParametersFwd"),
-    of_flow<SB_App_AttrFlowNNFlwPrtclParmRev>("PRobj_AttrFlowNNFlowProtocolParametersRev",
-                                              "AttrFlowNNFlowProtocolParametersRev"),
-    of_flow<SB_App_AttrFlowNNRutPrtclParmFwd>("PRobj_AttrFlowNNRouteProtocolParametersFwd",
-                                              "AttrFlowNNRouteProtocolParametersFwd"),
-    of_flow<SB_App_AttrFlowNNRutPrtclParmRev>("PRobj_AttrFlowNNRouteProtocolParametersRev",
-                                              "AttrFlowNNRouteProtocolParametersRev"),
-    of_flow<SB_App_AttrFlwNNSmlDlvyOBthRtsFwd>("PRobj_AttrFlowNNSimultaneousDeliveryOnBothRoutesFwd",
-                                               "AttrFlowNNSimultaneousDeliveryOnBothRoutesFwd"),
-    of_flow<SB_App_AttrFlwNNOOOrdDlryTRtPtlFwd>("PRobj_AttrFlowNNOutOfOrderDeliveryToRouteProtocolFwd",
-                                                "AttrFlowNNOutOfOrderDeliveryToRouteProtocolFwd"),
-    of_flow<SB_App_AttrFlowNNNakDelayTimeFwd>("PRobj_AttrFlowNNNakDelayTimeFwd", "AttrFlowNNNakDelayTimeFwd"),
-    fixed_id<SB_App_AttrMaxLinkFlows>("PRobj_AttrMaxLinkFlows", "0000000000000100", "AttrMaxLinkFlows"),
+    with_attr(of_flow<SB_App_AttrFlowNNActivatedFwd>("PRobj_AttrFlowNNActivatedFwd")),
+    with_attr(of_flow<SB_App_AttrFlowNNActivatedRev>("PRobj_AttrFlowNNActivatedRev")),
+    with_attr(of_flow<SB_App_AttrFlowNNFlowProtocolPDUFwd>("PRobj_AttrFlowNNFlowProtocolPDUFwd")),
+    with_attr(of_flow<SB_App_AttrFlowNNFlowProtocolPDURev>("PRobj_AttrFlowNNFlowProtocolPDURev")),
+    with_attr(of_flow<SB_App_AttrFlwNNRoutePrtclPDUFwd>("PRobj_AttrFlowNNRouteProtocolPDUFwd")),
+    with_attr(of_flow<SB_App_AttrFlwNNRoutePrtclPDURev>("PRobj_AttrFlowNNRouteProtocolPDURev")),
+    with_attr(of_flow<SB_App_AttrATSuppFlwProtlPrmPP>("PRobj_AttrATSupportedFlowProtocolParametersPP")),
+    with_attr(of_flow<SB_App_AttrATSuppRutProtlPrmPP>("PRobj_AttrATSupportedRouteProtocolParametersPP")),
+    with_attr(of_flow<SB_App_AttrFlowNNFlwPrtclParmFwd>("PRobj_AttrFlowNNFlowProtocolParametersFwd")),
+    with_attr(of_flow<SB_App_AttrFlowNNFlwPrtclParmRev>("PRobj_AttrFlowNNFlowProtocolParametersRev")),
+    with_attr(of_flow<SB_App_AttrFlowNNRutPrtclParmFwd>("PRobj_AttrFlowNNRouteProtocolParametersFwd")),
+    with_attr(of_flow<SB_App_AttrFlowNNRutPrtclParmRev>("PRobj_AttrFlowNNRouteProtocolParametersRev")),
+    with_attr(of_flow<SB_App_AttrFlwNNSmlDlvyOBthRtsFwd>("PRobj_AttrFlowNNSimultaneousDeliveryOnBothRoutesFwd")),
+    with_attr(of_flow<SB_App_AttrFlwNNOOOrdDlryTRtPtlFwd>("PRobj_AttrFlowNNOutOfOrderDeliveryToRouteProtocolFwd")),
+    with_attr(of_flow<SB_App_AttrFlowNNNakDelayTimeFwd>("PRobj_AttrFlowNNNakDelayTimeFwd")),
+    with_attr(fixed_id<SB_App_AttrMaxLinkFlows>("PRobj_AttrMaxLinkFlows", "0000000000000100")),
 };
 
 }  // namespace vorlan

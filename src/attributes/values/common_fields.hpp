@@ -15,6 +15,12 @@ inline constexpr RecordField kReservedField{.name = "PRstr_Reserved",
                                             .settable = false,
                                             .summary = "The bits that fill the last octet up."};
 
+inline constexpr Meaning kQuarterDb{.unit = "dB", .scale = 0.25, .summary = "0.25 dB"};
+inline constexpr Meaning kSignedQuarterDb{
+    .unit = "dB", .scale = 0.25, .is_signed = true, .summary = "0.25 dB, two's complement"};
+inline constexpr Code kRPCSteps[] = {{0, "0.5 dB"}, {1, "1 dB"}};
+inline constexpr Meaning kRPCStep{.codes = kRPCSteps, .summary = "0.5 or 1 dB"};
+
 /// A row of fixed width. Initial values are the defaults of the standard; fields without one start as zeros.
 constexpr RecordField fixed(std::string_view name, std::uint16_t bits, std::string_view initial = {},
                             const Meaning* meaning = nullptr, std::string_view summary = {}) {

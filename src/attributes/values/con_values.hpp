@@ -93,6 +93,14 @@ inline constexpr ValueSpec kValSearchParameters{.name = "SB_Con_ValSearchParamet
                                                 .fields = kValSearchParametersFields};
 using SB_Con_ValSearchParameters = ValueOf<kValSearchParameters>;
 
+inline constexpr Meaning kHalfDbAbove{.unit = "dB", .scale = 0.5, .summary = "0.5 dB"};
+inline constexpr Meaning kSlopeEighths{.scale = 0.125, .summary = "1/8"};
+inline constexpr Code kPilotDropTimes[] = {{0, "below 1 s"}, {1, "1 s"},    {2, "2 s"},    {3, "4 s"},
+                                           {4, "6 s"},       {5, "9 s"},    {6, "13 s"},   {7, "19 s"},
+                                           {8, "27 s"},      {9, "39 s"},   {10, "55 s"},  {11, "79 s"},
+                                           {12, "112 s"},    {13, "159 s"}, {14, "225 s"}, {15, "319 s"}};
+inline constexpr Meaning kPilotDropTimer{.codes = kPilotDropTimes, .summary = "seconds, by table"};
+
 /// What the texts of the two set management classes call their attribute, and the texts themselves.
 struct SetManagementTexts {
   std::string_view flag;
@@ -105,9 +113,9 @@ template <const SetManagementTexts& Texts>
 inline constexpr RecordField kSetManagementFields[] = {
     kValueIdField,
     fixed("PRstr_PilotAdd", 6, "001110", &kMinusHalfDb, "A pilot at least as strong joins the candidates."),
-    fixed("PRstr_PilotCompare", 6, "000101", nullptr, "0.5 dB above the active pilots that a candidate must be."),
+    fixed("PRstr_PilotCompare", 6, "000101", &kHalfDbAbove, "How far a candidate must be above the active pilots."),
     fixed("PRstr_PilotDrop", 6, "010010", &kMinusHalfDb, "A pilot that is weaker starts its drop timer."),
-    fixed("PRstr_PilotDropTimer", 4, "0011", nullptr, "Time after which a weak pilot leaves, by table."),
+    fixed("PRstr_PilotDropTimer", 4, "0011", &kPilotDropTimer, "Time after which a weak pilot leaves."),
     {.name = "PRstr_DynamicThresholds",
      .bits = 1,
      .wrong_length = Texts.flag,
@@ -117,7 +125,8 @@ inline constexpr RecordField kSetManagementFields[] = {
      .only = if_one("PRstr_DynamicThresholds"),
      .absent = Texts.soft_slope,
      .not_settable = Texts.soft_slope,
-     .summary = "Slope of the dynamic thresholds, 1/8."},
+     .meaning = &kSlopeEighths,
+     .summary = "Slope of the dynamic thresholds."},
     {.name = "PRstr_AddIntercept",
      .bits = 6,
      .only = if_one("PRstr_DynamicThresholds"),

@@ -32,10 +32,10 @@ void let_protocol_parameters(Record& record, std::size_t, std::string_view bits)
 
 void decode_profile_type_1(Record& record) {
   const std::string operation = source(record, "Decode_ProfileType1");
-  if (record.get("PRstr_ProfileType") != "00000001") raise(operation, "ProfileType is not 1.");
+  if (record.get("PRstr_ProfileType") != "00000001") raise(operation, kNotProfileType1);
   Record profile(qos_profile());
   if (!profile.receive(record.get("PRstr_ProfileValue"))) {
-    raise(operation, "Length of <ProfileValue> field is not correct.");
+    raise(operation, kWrongProfile);
   }
   record.let("PRstr_FlowPriority", profile.get("PRstr_FlowPriority"));
   record.let("PRstr_QoSAttribSetCount", profile.get("PRstr_QoSAttribSetCount"));

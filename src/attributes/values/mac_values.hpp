@@ -21,17 +21,14 @@ inline constexpr ValueSpec kValInitialConfiguration{.name = "SB_Mac_ValInitialCo
                                                     .fields = kValInitialConfigurationFields};
 using SB_Mac_ValInitialConfiguration = ValueOf<kValInitialConfiguration>;
 
-inline constexpr Code kRPCSteps[] = {{0, "0.5 dB"}, {1, "1 dB"}};
-inline constexpr Meaning kRPCStep{.codes = kRPCSteps, .summary = "0.5 or 1 dB"};
-
 inline constexpr RecordField kValPowerParametersFields[] = {
     kValueIdField,
     fixed("PRstr_DataOffsetNom", 4, {}, &kSignedHalfDb, "Offset of the data channel from the pilot."),
-    fixed("PRstr_DataOffset9k6", 4, {}, nullptr, "0.25 dB, two's complement, at 9.6 kbit/s."),
-    fixed("PRstr_DataOffset19k2", 4, {}, nullptr, "0.25 dB, two's complement, at 19.2 kbit/s."),
-    fixed("PRstr_DataOffset38k4", 4, {}, nullptr, "0.25 dB, two's complement, at 38.4 kbit/s."),
-    fixed("PRstr_DataOffset76k8", 4, {}, nullptr, "0.25 dB, two's complement, at 76.8 kbit/s."),
-    fixed("PRstr_DataOffset153k6", 4, {}, nullptr, "0.25 dB, two's complement, at 153.6 kbit/s."),
+    fixed("PRstr_DataOffset9k6", 4, {}, &kSignedQuarterDb, "Further offset at 9.6 kbit/s."),
+    fixed("PRstr_DataOffset19k2", 4, {}, &kSignedQuarterDb, "Further offset at 19.2 kbit/s."),
+    fixed("PRstr_DataOffset38k4", 4, {}, &kSignedQuarterDb, "Further offset at 38.4 kbit/s."),
+    fixed("PRstr_DataOffset76k8", 4, {}, &kSignedQuarterDb, "Further offset at 76.8 kbit/s."),
+    fixed("PRstr_DataOffset153k6", 4, {}, &kSignedQuarterDb, "Further offset at 153.6 kbit/s."),
     fixed("PRstr_RPCStep", 2, "01", &kRPCStep, "Step of the reverse power control."),
 };
 // Terminals send the access channel's record with two rates, or four in the enhanced protocol.
@@ -50,11 +47,11 @@ using SB_Mac_ValPowerParameters = ValueOf<kValPowerParameters>;
 inline constexpr RecordField kValRTCPowerParametersFields[] = {
     kValueIdField,
     fixed("PRstr_DataOffsetNom", 4, {}, &kSignedHalfDb, "Offset of the data channel from the pilot."),
-    fixed("PRstr_DataOffset9k6", 4, {}, nullptr, "0.25 dB, two's complement, at 9.6 kbit/s."),
-    fixed("PRstr_DataOffset19k2", 4, {}, nullptr, "0.25 dB, two's complement, at 19.2 kbit/s."),
-    fixed("PRstr_DataOffset38k4", 4, {}, nullptr, "0.25 dB, two's complement, at 38.4 kbit/s."),
-    fixed("PRstr_DataOffset76k8", 4, {}, nullptr, "0.25 dB, two's complement, at 76.8 kbit/s."),
-    fixed("PRstr_DataOffset153k6", 4, {}, nullptr, "0.25 dB, two's complement, at 153.6 kbit/s."),
+    fixed("PRstr_DataOffset9k6", 4, {}, &kSignedQuarterDb, "Further offset at 9.6 kbit/s."),
+    fixed("PRstr_DataOffset19k2", 4, {}, &kSignedQuarterDb, "Further offset at 19.2 kbit/s."),
+    fixed("PRstr_DataOffset38k4", 4, {}, &kSignedQuarterDb, "Further offset at 38.4 kbit/s."),
+    fixed("PRstr_DataOffset76k8", 4, {}, &kSignedQuarterDb, "Further offset at 76.8 kbit/s."),
+    fixed("PRstr_DataOffset153k6", 4, {}, &kSignedQuarterDb, "Further offset at 153.6 kbit/s."),
     fixed("PRstr_RPCStep", 2, "01", &kRPCStep, "Step of the reverse power control."),
     // Unlike the other records' reserved bits these can be set: a test may want to see what a terminal makes of them.
     fixed("PRstr_Reserved", 6, {}, nullptr, "The bits that fill the last octet up."),
@@ -100,10 +97,15 @@ inline constexpr ValueSpec kValHandoffDelays{.name = "SB_Mac_ValHandoffDelays",
                                              .fields = kValHandoffDelaysFields};
 using SB_Mac_ValHandoffDelays = ValueOf<kValHandoffDelays>;
 
+inline constexpr Code kDRCLockPeriods[] = {{0, "8 slots"}, {1, "16 slots"}};
+inline constexpr Meaning kDRCLockPeriod{.codes = kDRCLockPeriods, .summary = "8 or 16 slots"};
+inline constexpr Code kDRCLockLengths[] = {{0, "4 times"}, {1, "8 times"}, {2, "16 times"}, {3, "32 times"}};
+inline constexpr Meaning kDRCLockLength{.codes = kDRCLockLengths, .summary = "4, 8, 16 or 32 times"};
+
 inline constexpr RecordField kValDRCLockFields[] = {
     kValueIdField,
-    fixed("PRstr_DRCLockPeriod", 1, "1", nullptr, "Time between DRCLock bits: 0 is 8 slots, 1 is 16 slots."),
-    fixed("PRstr_DRCLockLength", 2, "01", nullptr, "How often a DRCLock bit is repeated: 4, 8, 16 or 32 times."),
+    fixed("PRstr_DRCLockPeriod", 1, "1", &kDRCLockPeriod, "Time between DRCLock bits."),
+    fixed("PRstr_DRCLockLength", 2, "01", &kDRCLockLength, "How often a DRCLock bit is repeated."),
     kReservedField,
 };
 inline constexpr ValueSpec kValDRCLock{.name = "SB_Mac_ValDRCLock",

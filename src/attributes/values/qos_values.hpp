@@ -74,8 +74,13 @@ void decode_profile_type_1(Record& record);
 /// Makes ProfileType, ProfileLength and ProfileValue of these properties.
 void set_profile(Record& record);
 
+inline constexpr std::string_view kNotProfileType1 = "ProfileType is not 1.";
+inline constexpr std::string_view kWrongProfile = "Length of <ProfileValue> field is not correct.";
+inline constexpr std::string_view kDecodeRefusals[] = {kNotProfileType1, kWrongProfile};
+
 inline constexpr ValueOperation kQoSRequestOperations[] = {
-    {"Decode_ProfileType1", decode_profile_type_1, "Takes the profile apart into priority and attribute sets."},
+    {"Decode_ProfileType1", decode_profile_type_1, "Takes the profile apart into priority and attribute sets.",
+     kDecodeRefusals},
     {"ProfileSet", set_profile, "Makes the profile of priority and attribute sets."},
 };
 

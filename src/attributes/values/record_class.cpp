@@ -96,12 +96,16 @@ std::size_t RecordClass::length_at(std::string_view bits) const {
 }
 
 std::string RecordClass::wrong_length(std::size_t field, At at, std::size_t width) const {
+  return wrong_length(field, at, std::to_string(width));
+}
+
+std::string RecordClass::wrong_length(std::size_t field, At at, std::string_view width) const {
   const RecordField& row = *fields_[field].spec;
   if (!row.wrong_length.empty()) return std::string(row.wrong_length);
   const bool of_element = !row.repeat.elements.empty();
   const std::string whole = of_element ? element_name(row.repeat.elements, at) : std::string(row.name);
   const std::string name(bare(whole));
-  const std::string bits = std::to_string(width);
+  const std::string bits(width);
   switch (texts_.family) {
     case RecordTexts::Named: return "Length of <" + name + "> field should be " + bits + " bits.";
     case RecordTexts::OfArgument:
@@ -140,17 +144,16 @@ void RecordClass::list_errors(std::vector<ErrorInfo>& errors) const {
     const RecordField& row = *fields_[i].spec;
     const std::string_view not_received = row.not_received.empty() ? texts_.not_received : row.not_received;
     if (row.settable) {
-      const bool fixed = row.width.kind == RecordWidth::Kind::Fixed;
-      errors.push_back(
-          {source(i, {}), fixed ? wrong_length(i, {}, row.bits) : wrong_length(i, {}, 0), "let of another width"});
-    } else if (is_property(row) && !not_received.empty()) {
+      const std::string width = row.bits != 0 ? std::to_string(row.bits) : "(" + width_text(row) + ")";
+      errors.push_back({source(i, {}), wrong_length(i, {}, width), "let of another width"});
+    } else if (is_property(row) && row.sent && !not_received.empty()) {
       errors.push_back({source(i, {}), std::string(not_received), "get before a record is received"});
     }
     if (!row.absent.empty()) {
       errors.push_back({source(i, {}), std::string(row.absent), "get of what the received record does not carry"});
     }
     if (!row.not_settable.empty()) {
-      errors.push_back({source(i, {}), std::string(row.not_settable), "let or get while the flag is 0"});
+      errors.push_back({source(i, {}), std::string(row.not_settable), "let while the flag is 0"});
     }
   }
 }
@@ -164,7 +167,7 @@ std::string element_name(std::string_view pattern, At at) {
     pattern.remove_prefix(start);
     const std::size_t run = std::min(pattern.find_first_not_of('#'), pattern.size());
     if (run == 0) break;
-    const std::string digits = std::to_string(number);
+    const std::string digits = std::to_string(static_cast<std::int64_t>(number));  // an index may have been negative
     name.append(run > digits.size() ? run - digits.size() : 0, '0').append(digits);
     pattern.remove_prefix(run);
     number = at.inner;
@@ -175,6 +178,7 @@ std::string element_name(std::string_view pattern, At at) {
 RecordLayout::RecordLayout(const RecordClass& record, std::string_view bits) : record_(&record), bits_(bits) {
   visits_.reserve(record.fields().size());
   walk(record, *this);
+  bits_ = {};  // only the walk reads them, and they need not last
 }
 
 bool RecordLayout::done() noexcept {

@@ -69,6 +69,7 @@ class RecordClass {
   [[nodiscard]] std::size_t length_at(std::string_view bits) const;
 
   [[nodiscard]] std::string wrong_length(std::size_t field, At at, std::size_t width) const;
+  [[nodiscard]] std::string wrong_length(std::size_t field, At at, std::string_view width) const;
   [[nodiscard]] std::string source(std::size_t field, At at) const;
   [[nodiscard]] const Texts& texts() const noexcept { return texts_; }
 
@@ -163,7 +164,7 @@ class RecordLayout {
 
  private:
   const RecordClass* record_ = nullptr;
-  std::string_view bits_;
+  std::string_view bits_;  // during the walk
   std::size_t position_ = 0;
   bool whole_ = true;
   std::vector<Visit> visits_;  // in the order of the walk

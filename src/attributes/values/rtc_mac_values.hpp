@@ -6,9 +6,7 @@
 
 namespace vorlan {
 
-inline constexpr Meaning kQuarterDb{.unit = "dB", .scale = 0.25, .summary = "0.25 dB"};
-inline constexpr Meaning kSignedQuarterDb{
-    .unit = "dB", .scale = 0.25, .is_signed = true, .summary = "0.25 dB, two's complement"};
+inline constexpr Meaning kSixteenths{.scale = 0.0625, .summary = "1/16"};
 inline constexpr Meaning kEighths{.scale = 0.125, .is_signed = true, .summary = "1/8, two's complement"};
 
 inline constexpr Code kPayloadSizes[] = {{0, "0 bits"},     {1, "128 bits"},  {2, "256 bits"},   {3, "512 bits"},
@@ -41,9 +39,9 @@ using SB_Mac_ValAuxiliaryPilotChnlParams = ValueOf<kValAuxiliaryPilotChnlParams>
 
 inline constexpr RecordField kValCommonPowerParametersFields[] = {
     kValueIdField,
-    fixed("PRstr_AllocationStagger", 4, {}, nullptr, "1/16."),
+    fixed("PRstr_AllocationStagger", 4, {}, &kSixteenths, "Stagger of the allocations."),
     fixed("PRstr_TxT2Pmin", 8, {}, &kQuarterDb, "The smallest traffic to pilot ratio."),
-    fixed("PRstr_RPCStep", 2, "01", nullptr, "Step of the reverse power control: 0 is 0.5 dB, 1 is 1 dB."),
+    fixed("PRstr_RPCStep", 2, "01", &kRPCStep, "Step of the reverse power control."),
 };
 inline constexpr ValueSpec kValCommonPowerParameters =
     rtc_mac_value("SB_Mac_ValCommonPowerParameters", "A value of CommonPowerParameters",

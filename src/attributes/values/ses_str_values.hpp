@@ -8,7 +8,10 @@ namespace vorlan {
 inline constexpr RecordField kValPriorSessionFields[] = {
     kValueIdField,
     fixed("PRstr_Restore", 1, {}, nullptr, "\"1\" asks for the prior session and carries what identifies it."),
-    {.name = "PRstr_Reserved", .width = to_octet(), .settable = false},
+    {.name = "PRstr_Reserved",
+     .width = to_octet(),
+     .settable = false,
+     .summary = "The bits that fill the octet of Restore up."},
     {.name = "PRstr_UATI",
      .bits = 128,
      .only = if_one("PRstr_Restore"),

@@ -23,7 +23,7 @@ void AttributeValue::receive(std::string_view bits) {
   const auto shorter = class_.spec().shorter_records;
   const bool may_be_cut_off = std::find(shorter.begin(), shorter.end(), bits.size()) != shorter.end();
   if (!record_.receive(bits, may_be_cut_off)) {
-    raise(class_.source("PRstr_ValString"), "Length of ValString is not correct.");
+    raise(class_.source("PRstr_ValString"), kWrongValString);
   }
 }
 
@@ -35,7 +35,7 @@ std::size_t AttributeValue::length_at(std::string_view bits, std::size_t positio
   if (position == 0) throw Error(ErrorNumber::InvalidCall, class_.source("GetValLengthAt"), "positions begin with 1");
   const std::string_view rest = bits.substr(std::min(position - 1, bits.size()));
   const std::size_t length = class_.length_at(rest);
-  if (length == 0) raise(class_.source("GetValLengthAt"), "Length of ValString is not correct.");
+  if (length == 0) raise(class_.source("GetValLengthAt"), kWrongValString);
   return length;
 }
 

@@ -170,9 +170,19 @@ std::vector<MemberInfo> ValueClass::list_members() {
 }
 
 std::vector<ErrorInfo> ValueClass::list_errors() const {
-  std::vector<ErrorInfo> errors{{source("PRstr_ValString"), "Length of ValString is not correct.",
-                                 "let of a record that ends before its last field"}};
+  const std::string wrong(kWrongValString);
+  std::vector<ErrorInfo> errors{{source("PRstr_ValString"), wrong, "let of a record that ends before its last field"}};
+  if (spec_.has_flag) {
+    errors.push_back(
+        {source("PRbln_ValFlag"), std::string(spec_.not_received), "let True before a record is received"});
+  }
   record_.list_errors(errors);
+  if (spec_.tells_length) errors.push_back({source("GetValLengthAt"), wrong, "call for a record that is cut off"});
+  for (const ValueOperation& operation : spec_.operations) {
+    for (const std::string_view text : operation.refusals) {
+      errors.push_back({source(operation.name), std::string(text), "call"});
+    }
+  }
   return errors;
 }
 

@@ -8,11 +8,15 @@
 
 namespace vorlan {
 
+/// PRstr_ValString and GetValLengthAt: of a record that ends before its last field.
+inline constexpr std::string_view kWrongValString = "Length of ValString is not correct.";
+
 /// A method that a class has of its own. It takes no arguments.
 struct ValueOperation {
   std::string_view name;
   void (*run)(Record& record);
   std::string_view summary;
+  std::span<const std::string_view> refusals = {};  ///< its texts, for listings
 };
 
 /// One class. Its record begins with the 8-bit ValueID.
