@@ -96,10 +96,9 @@ def main():
     test_set = vorlan.CreateObject("VorlanSim.TestSet")
     if given.refuse is not None:
         test_set.AccessTerminal.Refuse(given.refuse)
-    sector = connect(test_set, load_configuration(given.config, given.sector), given.sector)
     failed = None
     try:
-        run(test_set, sector)
+        run(test_set, connect(test_set, load_configuration(given.config, given.sector), given.sector))
     except vorlan.AutomationError as error:
         failed = f"error {error.number} in {error.source}: {error.description}"
     with tempfile.TemporaryDirectory() as folder:

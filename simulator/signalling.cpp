@@ -91,10 +91,11 @@ void Signalling::take(const std::string& label, Arrival arrival) {
 }
 
 bool Signalling::wait_for_message(const std::string& label, std::int32_t handle, std::int16_t time_out) {
-  Filter& one = filter(handle);
+  filter(handle);
   const auto until = simulation_->now() + time_out * kTimeOutUnit;
   catch_up();
-  while (one.waiting.empty()) {
+  // Looked up each time: in real time other calls run during the wait, and may drop the filter.
+  while (filter(handle).waiting.empty()) {
     auto arrival = simulation_->next_arrival(until);
     if (!arrival) {
       fetched_.clear();
@@ -102,8 +103,9 @@ bool Signalling::wait_for_message(const std::string& label, std::int32_t handle,
     }
     hand_out(std::move(*arrival));
   }
-  Arrival oldest = std::move(one.waiting.front());
-  one.waiting.pop_front();
+  auto& waiting = filter(handle).waiting;
+  Arrival oldest = std::move(waiting.front());
+  waiting.pop_front();
   take(label, std::move(oldest));
   return true;
 }

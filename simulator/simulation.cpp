@@ -40,11 +40,12 @@ void Simulation::transmit(int protocol, std::string label, Octets octets) {
 }
 
 std::optional<Arrival> Simulation::next_arrival(Milliseconds until) {
-  if (air_.empty() || air_.front().due > until) {
-    wait_until(until);
-    return std::nullopt;
+  // In real time other calls run during a wait: they may send, and take what was on its way.
+  const auto is_due = [&](Milliseconds time) { return !air_.empty() && air_.front().due <= time; };
+  while (!is_due(std::min(now(), until))) {
+    if (now() >= until && !is_due(until)) return std::nullopt;
+    wait_until(is_due(until) ? air_.front().due : until);
   }
-  wait_until(air_.front().due);
   OnItsWay next = std::move(air_.front());
   air_.erase(air_.begin());
   TerminalMessage& message = next.message;

@@ -64,6 +64,7 @@ PythonObject::~PythonObject() {
 
 Value PythonObject::invoke(std::string_view member, Access access, std::span<Value> arguments) {
   const InterpreterLock lock;
+  const Ref<Object> held(this);  // the script's code may let go of its object
   try {
     if (access == Access::Get || access == Access::Call) return read(member, access, arguments);
     assign(member, arguments);

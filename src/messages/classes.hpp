@@ -7,6 +7,7 @@
 
 namespace vorlan {
 
+std::span<const ClassEntry> security_message_classes() noexcept;
 std::span<const ClassEntry> session_message_classes() noexcept;
 std::span<const ClassEntry> connection_message_classes() noexcept;
 std::span<const ClassEntry> mac_message_classes() noexcept;

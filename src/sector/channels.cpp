@@ -21,7 +21,7 @@ std::string SB_Sector::role_label() const {
 
 void SB_Sector::configure_forward_channel(std::int16_t subtype, const Value& argument) {
   const SectorChannels& names = channels_of(subtype);
-  const TestSetAccess& access = test_set();
+  const TestSetAccess access = test_set();
   const Ref<Object>& collection = held(Held::FChCollection);
   const Ref<Object> channel =
       access.object(Role::ChannelItem, collection, std::string(names.forward_prefix) + sector_name_);
@@ -53,7 +53,7 @@ void SB_Sector::configure_forward_channel(std::int16_t subtype, const Value& arg
 
 void SB_Sector::configure_access_channel(std::int16_t subtype, const Ref<Object>& forward_channel) {
   const SectorChannels& names = channels_of(subtype);
-  const TestSetAccess& access = test_set();
+  const TestSetAccess access = test_set();
   const std::string sector_id = setting("PRstr_SectorID").to_text();
   if (sector_id.size() < kSectorIdBits) throw Error(ErrorNumber::TypeMismatch, {}, "PRstr_SectorID is too short");
   const std::int32_t low_bits = bin_to_long(std::string_view(sector_id).substr(sector_id.size() - kSectorIdBits));
@@ -121,7 +121,7 @@ Ref<Object> SB_Sector::reverse_channel(std::int16_t subtype) const {
 bool SB_Sector::AcquireReverseTrafficChannel() {
   constexpr std::string_view kOperation = "AcquireReverseTrafficChannel";
   constexpr std::string_view kFailed = "Reverse Traffic acquisition failed.";
-  const TestSetAccess& access = test_set();
+  const TestSetAccess access = test_set();
   const Ref<Object> channel = reverse_channel(tested_subtype().value_or(0));
   const bool acquired = or_raise(kOperation, kFailed, [&] {
     return access.call(Role::AcquireReverse, channel, kAcquisitionTimeOut).to_boolean();
@@ -133,7 +133,7 @@ bool SB_Sector::AcquireReverseTrafficChannel() {
 }
 
 void SB_Sector::CleanUp() {
-  const TestSetAccess& access = test_set();
+  const TestSetAccess access = test_set();
   std::optional<Error> failure;
   const auto remove = [&](Held collection, std::string_view prefix, Held channel) {
     held(channel) = nullptr;

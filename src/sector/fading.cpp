@@ -14,7 +14,7 @@ bool is_given(const Value& value) noexcept { return !value.is_empty() && !value.
 }  // namespace
 
 void SB_Sector::EnableFading() {
-  const TestSetAccess& access = test_set();
+  const TestSetAccess access = test_set();
   const Ref<Object> emulator = held(Held::RadioChannelEmulator);
   or_raise("EnableFading", "Could not create objects for RadioChannelVelocity and RadioChannelPaths.", [&] {
     Ref<Object> velocity = access.object(Role::FadingVelocity, emulator);
@@ -41,8 +41,8 @@ void SB_Sector::SetGainAndDelay(std::int16_t path, const Value& gain, const Valu
     raise("SB_Sector.SetGainAndDelay", "This function will be called only when Fading is to be enabled");
   }
   if (path < 1 || static_cast<std::size_t>(path) > paths_.size()) throw Error(ErrorNumber::SubscriptOutOfRange);
-  const TestSetAccess& access = test_set();
-  const Ref<Object>& object = paths_[static_cast<std::size_t>(path) - 1];
+  const TestSetAccess access = test_set();
+  const Ref<Object> object = paths_[static_cast<std::size_t>(path) - 1];
   // Both are converted first: one that is no number leaves the path as it is.
   const Value gain_db = is_given(gain) ? Value(gain.to_single()) : Value();
   const Value delay_us = is_given(delay) ? Value(delay.to_single()) : Value();

@@ -130,7 +130,7 @@ bool SB_Sector::SendFTAPClearStats() {
 }
 
 void SB_Sector::switch_test_packets(bool on, int first_point) {
-  const TestSetAccess& access = test_set();
+  const TestSetAccess access = test_set();
   const Ref<Object>& controller = held(Held::EvProtocolController);
   const auto point = [&](int number) { trace("FTAPTestPktTxAutoOn point " + std::to_string(number)); };
   point(first_point);

@@ -27,7 +27,7 @@ std::optional<std::int16_t> SB_Sector::tested_subtype() const {
 }
 
 bool SB_Sector::change_level(Step direction, float step_db, std::int16_t settle_seconds) {
-  const TestSetAccess& access = test_set();
+  const TestSetAccess access = test_set();
   if (const auto subtype = tested_subtype()) {
     const Ref<Object>& channel = held(channels_of(*subtype).forward);
     const float level = access.call(Role::OutputLevel, channel).to_single();

@@ -34,7 +34,7 @@ const Ref<Object>& SB_Sector::existing(Held channel) const {
 
 Value SB_Sector::setting(std::string_view property) const { return global_parameters()->get(property, ""); }
 
-const TestSetAccess& SB_Sector::test_set() {
+TestSetAccess SB_Sector::test_set() {
   if (!test_set_) {
     const Ref<Object>& parameters = held(Held::GlobalParameters);
     test_set_ = parameters ? TestSetAccess::named_by(*parameters) : TestSetAccess();

@@ -145,8 +145,9 @@ class SB_Sector final : public BoundObject<SB_Sector> {
   [[nodiscard]] const Ref<Object>& existing(Held channel) const;
   /// A property of the configuration, as it was loaded.
   [[nodiscard]] Value setting(std::string_view property) const;
-  /// The test set's members; their names are read once for each configuration.
-  const TestSetAccess& test_set();
+  /// The test set's members; their names are read once for each configuration. By value: an object of the script may
+  /// give the sector another configuration while it is called.
+  TestSetAccess test_set();
   Signalling signalling() { return {test_set(), held(Held::EvSignalling)}; }
   [[nodiscard]] SessionMemory memory() const noexcept { return SessionMemory(*platform_->settings); }
   void log(std::string_view line);
@@ -158,7 +159,8 @@ class SB_Sector final : public BoundObject<SB_Sector> {
   void configure_access_channel(std::int16_t subtype, const Ref<Object>& forward_channel);
   Ref<Object> configure_channels(std::int16_t subtype, bool configure_access, const Value& argument,
                                  std::string_view source, std::string_view outcome);
-  /// The step's error, if any, goes to the debugger's output, and `text` is raised instead.
+  /// The step's error, if any, goes to the debugger's output, and `text` is raised instead. A wait that the script has
+  /// cancelled stays what it is.
   template <class F>
   auto or_raise(std::string_view operation, std::string_view text, F&& step) const;
   /// Personality 1 is tested on the channels of the current subtype, any other on those of subtype 0. Nothing if the
@@ -169,8 +171,11 @@ class SB_Sector final : public BoundObject<SB_Sector> {
   enum class Step : std::uint8_t { Raise, Lower };
   bool change_level(Step direction, float step_db, std::int16_t settle_seconds);
 
-  void answer_configuration_requests(Signalling& signalling, std::span<const Value> filters);
-  [[nodiscard]] std::string response_to(std::int16_t protocol_type, std::string_view request, bool& later_mac) const;
+  /// False if a request cannot be answered.
+  bool answer_configuration_requests(Signalling& signalling, std::span<const Value> filters);
+  /// Nothing if it cannot be built.
+  [[nodiscard]] std::optional<std::string> response_to(std::int16_t protocol_type, std::string_view request,
+                                                       bool& later_mac) const;
   /// Whether the configuration asks for reverse traffic channel MAC subtype 3, until a session agrees on another.
   [[nodiscard]] bool uses_later_mac() const;
   void await_configuration_complete(Signalling& signalling, const Value& filter);
@@ -205,6 +210,8 @@ auto SB_Sector::or_raise(std::string_view operation, std::string_view text, F&& 
   try {
     return std::forward<F>(step)();
   } catch (const Error& error) {
+    constexpr std::int32_t kCancelled = 18;
+    if (error.number() == kCancelled) throw;
     const std::string source = "SB_Sector." + std::string(operation);
     trace(source + " --- " + error.source() + ": " + error.description());
     raise(source, text);

@@ -79,20 +79,26 @@ bool SB_Sector::StartSessionNegotiationFromAN() {
     requests[i] = signalling.add_filter(kRequestId, kProposals[i].protocol_type);
   }
   announce(signalling, kStart, start);
-  answer_configuration_requests(signalling, requests);
+  const bool answered = answer_configuration_requests(signalling, requests);
   for (const Value& filter : requests) signalling.remove_filter(filter);
+  if (!answered) {
+    signalling.remove_filter(complete);
+    // The source is another class's on purpose.
+    raise("SB_DefaultSession.DefSessionNegotiation", "Configuration Response Message could not be created.");
+  }
   await_configuration_complete(signalling, complete);
   return true;
 }
 
-void SB_Sector::answer_configuration_requests(Signalling& signalling, std::span<const Value> filters) {
+bool SB_Sector::answer_configuration_requests(Signalling& signalling, std::span<const Value> filters) {
   bool later_mac = uses_later_mac();
   for (std::size_t i = 0;; i = (i + 1) % kProposals.size()) {
     const Proposals& proposals = kProposals[i];
-    if (!signalling.wait(proposals.request_label, filters[i])) return;
-    const std::string response = response_to(proposals.protocol_type, signalling.fetch(), later_mac);
+    if (!signalling.wait(proposals.request_label, filters[i])) return true;
+    const auto response = response_to(proposals.protocol_type, signalling.fetch(), later_mac);
+    if (!response) return false;
     signalling.send({.label = proposals.response_label,
-                     .bits = response,
+                     .bits = *response,
                      .protocol_type = proposals.protocol_type,
                      .announcement = test_set::kExchange,
                      .when_sent = proposals.when_sent});
@@ -101,7 +107,8 @@ void SB_Sector::answer_configuration_requests(Signalling& signalling, std::span<
   }
 }
 
-std::string SB_Sector::response_to(std::int16_t protocol_type, std::string_view request, bool& later_mac) const {
+std::optional<std::string> SB_Sector::response_to(std::int16_t protocol_type, std::string_view request,
+                                                  bool& later_mac) const {
   try {
     SB_MsgConfigurationRequest received;
     received.receive(request);
@@ -113,8 +120,7 @@ std::string SB_Sector::response_to(std::int16_t protocol_type, std::string_view 
     return response.encode(records);
   } catch (const Error& error) {
     trace("SB_Sector.StartSessionNegotiationFromAN --- " + error.source() + ": " + error.description());
-    // The source is another class's on purpose.
-    raise("SB_DefaultSession.DefSessionNegotiation", "Configuration Response Message could not be created.");
+    return std::nullopt;
   }
 }
 

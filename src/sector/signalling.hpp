@@ -41,8 +41,8 @@ struct MessageExchange {
 class Signalling {
  public:
   /// A message collection that is given is used instead of the signalling object's own.
-  Signalling(const TestSetAccess& access, Ref<Object> signalling, Ref<Object> messages = {})
-      : access_(&access), signalling_(std::move(signalling)), messages_(std::move(messages)) {}
+  Signalling(TestSetAccess access, Ref<Object> signalling, Ref<Object> messages = {})
+      : access_(std::move(access)), signalling_(std::move(signalling)), messages_(std::move(messages)) {}
 
   /// Collects received messages of a MessageID and protocol; returns the filter's handle.
   Value add_filter(std::int16_t message_id, std::int16_t protocol_type);
@@ -64,7 +64,7 @@ class Signalling {
  private:
   const Ref<Object>& messages();
 
-  const TestSetAccess* access_;
+  TestSetAccess access_;
   Ref<Object> signalling_;
   Ref<Object> messages_;
 };

@@ -91,7 +91,9 @@ Value TestSetAccess::invoke(Role role, const Ref<Object>& object, Access access,
   if (!object) {
     throw Error(ErrorNumber::ObjectNotSet, {}, kObjectNames[static_cast<std::size_t>(test_set_member(role).object)]);
   }
-  return object->invoke(name(role), access, arguments);
+  // Held: a script's object may have the caller let go of it meanwhile.
+  const Ref<Object> called = object;
+  return called->invoke(name(role), access, arguments);
 }
 
 Ref<Object> TestSetAccess::existing(Role role, const Value& object) {

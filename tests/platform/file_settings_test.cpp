@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -80,6 +82,64 @@ TEST(FileSettings, ProcessesLoseNoneOfTheirChanges) {
     const std::string key = std::to_string(i % kChanges);
     EXPECT_EQ(make_file_settings(file)->read("app", std::to_string(i / kChanges), key), key);
   }
+}
+
+/// A process that writes 0, 1, 2, ... until it is killed.
+pid_t start_writer(const fs::path& file) {
+  const pid_t child = ::fork();
+  if (child != 0) return child;
+  try {
+    for (int i = 0;; ++i) make_file_settings(file)->write("app", "s", "count", std::to_string(i));
+  } catch (const Error&) {
+    ::_exit(1);
+  }
+}
+
+/// VORLAN_KILLS asks for more than the few of an everyday run.
+TEST(FileSettings, SurviveAKillAtAnyTime) {
+  const test::TemporaryFolder folder;
+  const fs::path file = folder.path() / "settings.ini";
+  const auto settings = make_file_settings(file);
+  const std::string kept(2000, 'x');
+  settings->write("app", "s", "kept", kept);
+  const char* const wanted = std::getenv("VORLAN_KILLS");
+  const int kills = wanted != nullptr ? std::atoi(wanted) : 25;
+  int written = 0;
+  for (int i = 0; i < kills; ++i) {
+    const pid_t child = start_writer(file);
+    ASSERT_GT(child, 0);
+    ::usleep(static_cast<useconds_t>(500 + i * 7919 % 6000));
+    ::kill(child, SIGKILL);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status)) << "the writer found the store unusable";
+    EXPECT_EQ(settings->read("app", "s", "kept"), kept);
+    const std::string count = settings->read("app", "s", "count").value_or("0");
+    EXPECT_EQ(count.find_first_not_of("0123456789"), std::string::npos);
+    written += count != "0";
+    settings->write("app", "s", "count", "0");  // no lock is left behind
+  }
+  EXPECT_GT(written, 0) << "no writer came far enough to write twice";
+}
+
+TEST(FileSettings, AFullDiskLeavesTheStoreAsItWas) {
+  const test::TemporaryFolder folder;
+  const fs::path file = folder.write("settings.ini", "[app\\s]\nk=1\n");
+  const pid_t child = ::fork();
+  ASSERT_GE(child, 0);
+  if (child == 0) {
+    const rlimit limit{64, 64};  // bytes in a file
+    ::signal(SIGXFSZ, SIG_IGN);
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) ::_exit(99);
+    ::_exit(raised_by([&] { make_file_settings(file)->write("app", "s", "k", std::string(100, 'x')); }).number);
+  }
+  int status = 0;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  EXPECT_EQ(WEXITSTATUS(status), 75);
+  EXPECT_EQ(text_of(file), "[app\\s]\nk=1\n");
+  EXPECT_FALSE(fs::exists(file.string() + ".new"));
+  make_file_settings(file)->write("app", "s", "k", "2");
+  EXPECT_EQ(make_file_settings(file)->read("app", "s", "k"), "2");
 }
 
 }  // namespace

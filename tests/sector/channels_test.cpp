@@ -1,4 +1,5 @@
 // What SB_Sector asks of the test set for its channels and levels.
+#include "automation/error.hpp"
 #include "sector/sector_fixture.hpp"
 
 namespace vorlan::test {
@@ -101,6 +102,9 @@ TEST(SectorChannels, AcquiresTheReverseTrafficChannel) {
   EXPECT_EQ(raised_by([&] { f.sector->call("AcquireReverseTrafficChannel"); }),
             (Raised{1, "SB_Sector.AcquireReverseTrafficChannel", "Reverse Traffic acquisition failed."}));
   EXPECT_EQ(f.take_calls(), Calls{"RTC.Acquire(750)"});
+  // Whoever cancels the wait is told so, not that the acquisition failed.
+  f.reverse->answers["Acquire"] = [](std::span<Value>) -> Value { throw Error(18, {}, "User interrupt occurred"); };
+  EXPECT_EQ(raised_by([&] { f.sector->call("AcquireReverseTrafficChannel"); }).number, 18);
 }
 
 TEST(SectorChannels, CleanUpRemovesWhatIsThere) {

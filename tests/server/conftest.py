@@ -36,6 +36,7 @@ class PrivateBus:
         configuration.write_text(CONFIGURATION.format(folder=folder))
         self.daemon = subprocess.Popen(
             ["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address=1"],
+            env={**os.environ, "XDG_CONFIG_HOME": str(folder)},  # what sessions remember for their user stays here
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         self.address = self.daemon.stdout.readline().strip()
 

@@ -10,7 +10,7 @@ from pathlib import Path
 
 import dbus
 import pytest
-from client import AutomationError, Client, is_gone, processes_of, wait_until
+from client import NULL, AutomationError, Client, Remote, is_gone, processes_of, wait_until
 from kill_clients import kill_clients
 
 EXAMPLES = Path(__file__).resolve().parents[2] / "examples"
@@ -130,30 +130,67 @@ def test_killed_clients_leave_nothing_behind(bus):
     kill_clients(bus.address, bus.server, int(os.environ.get("VORLAN_KILLS", "40")))
 
 
-def message_session(address, number):
-    """A client that builds messages and takes them apart again, with objects of its own."""
+def whole_session(address, number):
+    """A client with a test set of its own: from the first channel to the clean-up."""
     client = Client(address)
-    built, target, read = (client.create(name) for name in
-                           ("SB_Ses_MsgSessionClose", "VorlanSim.MessageObject", "SB_Ses_MsgSessionClose"))
-    built.call("Initialize", "(so)", target.reference)
-    for value in range(20):
-        bits = f"{(number * 20 + value) % 256:08b}"
-        built.set("PRstr_CloseReason", bits)
-        built.set("PRstr_MoreInfoLen", "00000000")
-        built.call("CreateMessage", "(so)", target.reference)
-        read.set("PRobj_MessageObject", target.reference)
-        assert read.get("PRstr_CloseReason") == bits
+
+    def do(one, member, *arguments):
+        return one.invoke(member, "Call", *arguments)[0]
+
+    def part(one, name, *arguments):
+        return one.invoke(name, "Get", *arguments)[0]
+
+    test_set, parameters, sector, reverse = (client.create(name) for name in (
+        "VorlanSim.TestSet", "SB_GlobalParameters", "SB_Sector", "SB_PROT_RevTrafficChannel"))
+    parameters.set("PRstr_FileName", str(EXAMPLES / "sector.ini"))
+    do(parameters, "Initialize", "SECTOR 0")
+    parameters.set("PRbln_FadingEnabled", True)
+    signalling, terminal, report = (Remote(client, *part(test_set, name), None)
+                                    for name in ("Signalling", "AccessTerminal", "TestReport"))
+    reverse_channels = Remote(client, *part(test_set, "ReverseTrafficChannels"), None)
+    for name, reference in (
+            ("GlobalParameters", parameters.reference), ("TestSet", test_set.reference),
+            ("TestReport", report.reference), ("EvSignalling", signalling.reference),
+            ("FChCollection", part(test_set, "ForwardChannels")),
+            ("AccChCollection", part(test_set, "AccessChannels")),
+            ("RevTrafficChannel", do(reverse_channels, "Item", "RTC_SECTOR 0")),
+            ("EvProtocolController", part(test_set, "ProtocolController")),
+            ("RadioChannelEmulator", part(test_set, "RadioChannelEmulator"))):
+        sector.set("PRobj_" + name, reference)
+
+    do(sector, "ConfigureFwdAndAccChannel", True, 0)
+    assert do(sector, "StartSessionNegotiationFromAN")
+    assert sector.invoke("EndSessionNegotiationFromAN", "Call", 0) == (True, [4])
+    assert do(sector, "AcquireReverseTrafficChannel")
+    do(reverse, "Initialize", parameters.reference, signalling.reference, part(signalling, "Messages"))
+    assert do(reverse, "NegotiateRateParametersAttribute") and do(reverse, "NegotiatePowerParametersAttribute")
+    sector.set("PR_intReferenceVelocity", 30)
+    sector.set("PR_intNumPath", 1 + number % 8)
+    do(sector, "EnableFading")
+    do(sector, "SetGainAndDelay", 1, -3.0, NULL)
+    assert do(sector, "NegotiateFTAP", True, True, False, False)
+    do(sector, "EnableFTAPTestPktFlow")
+    assert do(sector, "LowerLevel", 10.0, 2) and do(sector, "RaiseLevel", 5.0, 2)
+    do(sector, "DisableFTAPTestPktFlow")
+    do(sector, "DestoyFadingObjects")
+    do(sector, "CleanUp")
+
+    assert part(terminal, "State") == "Open" and len(part(terminal, "Complaints")) == 0
+    assert part(report, "Count") == 7
+    assert part(report, "Line", 3) == f"Configured: {1 + number % 8} path/s for Sector: SECTOR 0"
+    assert part(Remote(client, *part(test_set, "Trace"), None), "Count") == 19
+    assert part(test_set, "Time") > 6  # the sector has let the test set's time pass, and nobody has waited
     client.close()
 
 
-def test_fifty_clients_at_once(bus):
+def test_fifty_clients_at_once(plain_bus):
     children = []
     for number in range(50):
         child = os.fork()
         if child == 0:
             status = 1
             try:
-                message_session(bus.address, number)
+                whole_session(plain_bus.address, number)
                 status = 0
             finally:
                 os._exit(status)

@@ -165,3 +165,15 @@ def test_an_endless_loop_or_crash_of_one_client_does_not_touch_another(bus, clie
     # The next object gets a new worker.
     assert crashing.create("Probe").call("Echo", "v", "again") == "again"
     crashing.close()
+
+
+def test_what_the_socket_does_not_take_at_once_is_sent_all_the_same(client):
+    # The call that waited goes on in a thread that no longer listens to the bus; its answer is larger than any socket.
+    probe, large = client.create("Probe"), "x" * 20_000_000
+
+    def answer(*_):
+        yield probe.start("Test.Probe", "Echo", "v", "meanwhile")
+        return large
+
+    script = ScriptObject(client, "/script", answer)
+    assert probe.call("CallObject", "(so)sv", script.reference, "Go", 1) == large

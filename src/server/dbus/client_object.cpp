@@ -47,6 +47,8 @@ ClientObject::ClientObject(Clients& clients, const Reference& name) : clients_(c
 ClientObject::~ClientObject() { clients_.objects.erase({name_.service, name_.path}); }
 
 Value ClientObject::invoke(std::string_view member, Access access, std::span<Value> arguments) {
+  // What runs until the answer comes may let go of the object.
+  const Ref<Object> held(this);
   const std::string name(member);
   const Message call = new_call(clients_.bus, name_.service.c_str(), name_.path.c_str(), kObjectInterface, "Invoke");
   check(sd_bus_message_append(call.get(), "ss", name.c_str(), text_of(access)), kCalling);

@@ -5,7 +5,9 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
+#include <stdexcept>
 #include <system_error>
 
 #include "server/dbus/names.hpp"
@@ -94,7 +96,9 @@ Front::Front(const Registry& registry, std::string program)
         "clients");
   check(sd_bus_attach_event(bus_.get(), loop_.get(), SD_EVENT_PRIORITY_NORMAL), "event loop");
   check(sd_bus_set_exit_on_disconnect(bus_.get(), 1), "event loop");
-  check(sd_bus_request_name(bus_.get(), kServerName, 0), kServerName);
+  const int named = sd_bus_request_name(bus_.get(), kServerName, 0);
+  if (named == -EEXIST) throw std::runtime_error("there is a server on this bus already");
+  check(named, kServerName);
 }
 
 Front::~Front() {

@@ -1,8 +1,11 @@
 #include "server/dbus/pump.hpp"
 
 #include <poll.h>
+#include <sys/eventfd.h>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <cstdlib>
 #include <system_error>
 
@@ -27,8 +30,8 @@ std::optional<Pump::Clock::time_point> earlier(std::optional<Pump::Clock::time_p
   return end ? std::min(*end, bus) : bus;
 }
 
-void wait_for_input(int descriptor, int events, std::optional<Pump::Clock::time_point> end) {
-  pollfd polled{descriptor, static_cast<short>(events), 0};
+void wait_for_input(int bus, int events, int wake, std::optional<Pump::Clock::time_point> end) {
+  std::array<pollfd, 2> polled{{{bus, static_cast<short>(events), 0}, {wake, POLLIN, 0}}};
   timespec rest{};
   if (end) {
     const auto left = std::max(nanoseconds(0), duration_cast<nanoseconds>(*end - Pump::Clock::now()));
@@ -36,10 +39,19 @@ void wait_for_input(int descriptor, int events, std::optional<Pump::Clock::time_
     rest.tv_nsec = (left % seconds(1)).count();
   }
   // Woken too early, by a signal for one, the leader comes round again.
-  ppoll(&polled, 1, end ? &rest : nullptr, nullptr);
+  const int ready = ppoll(polled.data(), polled.size(), end ? &rest : nullptr, nullptr);
+  eventfd_t times = 0;
+  if (ready > 0 && polled[1].revents != 0) eventfd_read(wake, &times);
+}
+
+int make_event() {
+  const int made = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+  return check(made < 0 ? -errno : made, "event");
 }
 
 }  // namespace
+
+Pump::Pump(sd_bus* bus, Calls& calls) : bus_(bus), calls_(calls), wake_(make_event()) {}
 
 void Pump::run() {
   Lock gate(gate_);
@@ -56,7 +68,9 @@ void Pump::work(Lock& gate) {
       leader_ = std::this_thread::get_id();
     }
     const Message call = handed_ ? std::move(handed_) : listen(gate, std::nullopt);
-    if (call) calls_.answer(call.get());
+    if (!call) continue;
+    calls_.answer(call.get());
+    if (!leads()) wake_leader();
   }
 }
 
@@ -77,7 +91,7 @@ Message Pump::listen(Lock& gate, std::optional<Clock::time_point> end) {
   const int events = sd_bus_get_events(bus_);
   if (descriptor < 0 || events < 0) std::_Exit(EXIT_SUCCESS);
   gate.unlock();
-  wait_for_input(descriptor, events, earlier(end, bus_time));
+  wait_for_input(descriptor, events, wake_.get(), earlier(end, bus_time));
   gate.lock();
   return nullptr;
 }
@@ -86,6 +100,7 @@ void Pump::until(Wait& wait, std::optional<Clock::time_point> end) {
   Lock gate(gate_, std::adopt_lock);
   const auto place = waits_.insert(waits_.end(), &wait);
   const auto goes_on = [&] { return !wait.done_ && !wait.cancelled_ && !(end && Clock::now() >= *end); };
+  if (!leads()) wake_leader();
   while (goes_on()) {
     if (leads()) {
       Message call = listen(gate, end);
@@ -99,6 +114,10 @@ void Pump::until(Wait& wait, std::optional<Clock::time_point> end) {
   waits_.erase(place);
   static_cast<void>(gate.release());
   if (wait.cancelled_ && !wait.done_) throw Error(kInterrupted, {}, "User interrupt occurred");
+}
+
+void Pump::wake_leader() noexcept {
+  if ((sd_bus_get_events(bus_) & POLLOUT) != 0) eventfd_write(wake_.get(), 1);
 }
 
 bool Pump::add_thread() noexcept try {

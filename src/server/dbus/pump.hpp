@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "server/dbus/bus.hpp"
+#include "server/dbus/worker_process.hpp"
 
 namespace vorlan::dbus {
 
@@ -39,7 +40,7 @@ class Pump {
  public:
   using Clock = std::chrono::steady_clock;
 
-  Pump(sd_bus* bus, Calls& calls) : bus_(bus), calls_(calls) {}
+  Pump(sd_bus* bus, Calls& calls);
   Pump(const Pump&) = delete;
   Pump& operator=(const Pump&) = delete;
 
@@ -73,12 +74,15 @@ class Pump {
   [[noreturn]] void work(Lock& gate);
   /// As leader: one step of listening. The call to be answered, if one has come in.
   Message listen(Lock& gate, std::optional<Clock::time_point> end);
+  /// As anyone else, after sending: what the socket did not take is the leader's to send, and it may not know.
+  void wake_leader() noexcept;
   void hand_over(Message call) noexcept;
   bool add_thread() noexcept;
   [[nodiscard]] bool leads() const noexcept { return leader_ == std::this_thread::get_id(); }
 
   sd_bus* bus_;
   Calls& calls_;
+  Descriptor wake_;
   std::mutex gate_;
   std::thread::id leader_;
   std::condition_variable handed_over_;

@@ -1,0 +1,248 @@
+#include "security/security.hpp"
+
+#include <algorithm>
+
+#include "automation/error.hpp"
+#include "common/sector_identity.hpp"
+#include "messages/security/key_exchange.hpp"
+#include "security/plain_protocol.hpp"
+#include "security/sha1_authentication.hpp"
+
+namespace vorlan {
+
+namespace {
+
+constexpr std::string_view kSKeyLength = "PRint_SKeyLength";
+constexpr std::string_view kAuthKeyLength = "PRlng_AuthKeyLength";
+
+std::string member_of_security(std::string_view member) { return std::string("SB_Security.").append(member); }
+
+}  // namespace
+
+/// A protocol that can be chosen, how its object is made, and the setting that is logged with it.
+struct SB_Security::Choice {
+  const SecurityProtocol* protocol;
+  Ref<Object> (*make)(const SB_Security& security);
+  std::string_view key_length = {};
+};
+
+template <const SecurityProtocol& Protocol>
+Ref<Object> SB_Security::make_plain(const SB_Security& security) {
+  auto object = vorlan::make<PlainProtocol<Protocol>>(*security.platform_);
+  object->initialize(security.link_);
+  return object;
+}
+
+Ref<Object> SB_Security::make_sha1(const SB_Security& security) {
+  auto object = make<SB_PROT_SHA1Authentication>(*security.platform_);
+  object->initialize(security.link_, security.setting(kAuthKeyLength).to_long());
+  return object;
+}
+
+Ref<Object> SB_Security::make_dh(const SB_Security& security) {
+  auto object = make<SB_PROT_DHKeyXChange>(*security.platform_);
+  object->initialize(security.link_, security.security_object_, security.setting(kSKeyLength).to_integer());
+  return object;
+}
+
+const SB_Security::Choice* SB_Security::find_choice(SecurityFamilyId family, std::int32_t subtype) noexcept {
+  static constexpr std::array kChoices{
+      Choice{&kDefaultSecurity, &make_plain<kDefaultSecurity>},
+      Choice{&kGenericSecurity, &make_plain<kGenericSecurity>},
+      Choice{&kDefaultKeyXChange, &make_plain<kDefaultKeyXChange>},
+      Choice{&kDHKeyXChange, &make_dh, kSKeyLength},
+      Choice{&kDefaultAuthentication, &make_plain<kDefaultAuthentication>},
+      Choice{&kSHA1Authentication, &make_sha1, kAuthKeyLength},
+      Choice{&kDefaultEncryption, &make_plain<kDefaultEncryption>},
+  };
+  const auto* const found = std::find_if(kChoices.begin(), kChoices.end(), [&](const Choice& choice) {
+    return choice.protocol->family == family && choice.protocol->subtype == subtype;
+  });
+  return found == kChoices.end() ? nullptr : found;
+}
+
+bool SB_Security::Initialise(const Value& sector) {
+  const Ref<Object> given = object_argument(sector, "SB_Security.Initialise");
+  const auto object_of = [&](std::string_view property) { return given->get(property).to_object(); };
+  Ref<Object> configuration = object_of("PRobj_GlobalParameters");
+  auto link = std::make_shared<SecurityLink>();
+  link->access = TestSetAccess::named_by(deref(configuration, "SB_Security.Initialise"));
+  link->signalling = object_of("PRobj_EvSignalling");
+  link->messages = link->access.object(Role::MessageCollection, link->signalling);
+  Ref<Object> test_set = object_of("PRobj_TestSet");
+  if (!test_set) test_set = object_of("PRobj_ParentTestSet");
+  Ref<Object> security_object = link->access.object(Role::SecurityObject, test_set);
+  report_ = object_of("PRobj_TestReport");
+  security_object_ = std::move(security_object);
+  configuration_ = std::move(configuration);
+  link_ = std::move(link);
+  return true;
+}
+
+Value SB_Security::setting(std::string_view property) const { return configuration_->get(property, ""); }
+
+void SB_Security::check_initialized(std::string_view source) const {
+  // The word is doubled on purpose.
+  if (!link_) raise(source, "SB_Security Object not not initialized. Please call <Initialize> method first.");
+}
+
+void SB_Security::log(std::string_view line) const {
+  if (report_) {
+    link_->access.call(Role::ReportLine, report_, line);
+  } else {
+    platform_->debug->write_line(line);
+  }
+}
+
+void SB_Security::check_session_key_length(std::string_view source) const {
+  const std::int16_t bits = setting(kSKeyLength).to_integer();
+  if (bits < 0 || !key_exchange::is_key_length(static_cast<std::size_t>(bits))) {
+    raise(source, "Invalid SessionKeyLength specified in Script parameters. Valid values are 768 or 1024.");
+  }
+}
+
+void SB_Security::check_key_lengths(SecurityFamilyId family, std::int16_t subtype, const std::string& source) const {
+  // The session key's length is checked whatever key exchange is chosen.
+  if (family == SecurityFamilyId::KeyXChange) check_session_key_length(source);
+  if (family != SecurityFamilyId::Authentication || subtype != kSHA1Authentication.subtype) return;
+  const std::int32_t bits = setting(kAuthKeyLength).to_long();
+  if (bits < 0 || bits > SB_PROT_SHA1Authentication::kLongestKey) {
+    raise(source, "Invalid AuthenticationKeyLength specified");
+  }
+}
+
+void SB_Security::configure(const SecurityFamily& family) {
+  const std::string source = member_of_security(family.operation);
+  check_initialized(source);
+  const std::int16_t subtype = setting(family.selector).to_integer();
+  check_key_lengths(family.id, subtype, source);
+  const auto text = [this](std::string_view property) { return setting(property).to_text(); };
+  const SectorIdentity sector{.sector_id = text("PRstr_SectorID127_96") + text("PRstr_SectorID95_64") +
+                                           text("PRstr_SectorID63_32") + text("PRstr_SectorID"),
+                              .subnet_mask = text("PRstr_SubnetMask"),
+                              .sector_signature = text("PRstr_SectorSignature")};
+
+  Chosen& chosen = chosen_[static_cast<std::size_t>(family.id)];
+  if (const Choice* choice = find_choice(family.id, subtype)) {
+    chosen = {choice->protocol, choice->make(*this)};
+    log(std::string(choice->protocol->initialized)
+            .append(choice->key_length.empty() ? "" : setting(choice->key_length).to_text()));
+  } else {
+    chosen = {};
+    log(family.not_chosen);
+  }
+  configured_ = true;
+
+  SettingsStore& settings = *platform_->settings;
+  remember_sector(settings, sector);
+  remember(settings, family.remembered, subtype);
+  if (family.id == SecurityFamilyId::Authentication) {
+    remember(settings, Remembered::AuthKeyLength, setting(kAuthKeyLength).to_long());
+  }
+}
+
+void SB_Security::ClearSessionStateInfo() { reset_remembered_values(*platform_->settings); }
+
+std::int32_t SB_Security::remembered_auth_key_length() const {
+  return recall(*platform_->settings, Remembered::AuthKeyLength);
+}
+
+Ref<Object> SB_Security::protocol(const SecurityProtocol& protocol) const {
+  const Chosen& last = chosen(protocol.family);
+  if (last.protocol != &protocol) {
+    constexpr std::string_view kPrefix = "SB_";
+    raise(member_of_security(std::string("PRobj_").append(protocol.name.substr(kPrefix.size()))),
+          "Object not available yet. Please call " + member_of_security(security_family(protocol.family).operation) +
+              " prior to calling this property");
+  }
+  return last.object;
+}
+
+template <class T>
+T* SB_Security::chosen(const SecurityProtocol& protocol) const noexcept {
+  const Chosen& last = chosen(protocol.family);
+  return last.protocol == &protocol ? static_cast<T*>(last.object.get()) : nullptr;
+}
+
+// --- retired entry points
+
+void SB_Security::warn_retired(std::string_view operation) const {
+  // Misspelt on purpose.
+  log("WARNING: The function " + member_of_security(operation) + " is now obsolete. The Script may nork correctly.");
+  log("Please refer to the latest Class specifications document.");
+}
+
+bool SB_Security::Initialize(const Value& sector) {
+  const bool done = Initialise(sector);  // before the warning: the sector brings the test report
+  warn_retired("Initialize");
+  return done;
+}
+
+bool SB_Security::Configure() {
+  warn_retired("Configure");
+  check_initialized("SB_Security.Configure");
+  for (const SecurityFamily& family : kSecurityFamilies) configure(family);
+  return true;
+}
+
+void SB_Security::propose_subtype(std::int16_t protocol_type, std::int32_t subtype, std::string_view label) {
+  const std::string name = std::string(label).append(" protocol");
+  negotiate_subtype(*link_, "SB_Security.NegotiateProtocolSubtype", protocol_type, subtype,
+                    {name, name, name, ", subtype "});
+}
+
+bool SB_Security::NegotiateProtocolSubtype(std::int16_t protocol_type, std::int32_t subtype,
+                                           const std::optional<std::string>& label) {
+  constexpr std::string_view kSource = "SB_Security.NegotiateProtocolSubtype";
+  warn_retired("NegotiateProtocolSubtype");
+  check_initialized(kSource);
+  if (label) {
+    propose_subtype(protocol_type, subtype, *label);
+    return true;
+  }
+  const auto* const family =
+      std::find_if(std::begin(kSecurityFamilies), std::end(kSecurityFamilies),
+                   [&](const SecurityFamily& row) { return row.protocol_type == protocol_type; });
+  const Choice* const choice = family == std::end(kSecurityFamilies) ? nullptr : find_choice(family->id, subtype);
+  if (choice == nullptr) throw Error(ErrorNumber::InvalidCall, kSource, "no protocol has this type and subtype");
+  propose_subtype(protocol_type, subtype, choice->protocol->label);
+  return true;
+}
+
+bool SB_Security::SecurityNegotiations() {
+  constexpr std::string_view kSource = "SB_Security.SecurityNegotiations";
+  warn_retired("SecurityNegotiations");
+  check_initialized(kSource);
+  if (!configured_) {
+    raise(kSource, "Please configure the security negotiations to be carried out by calling <configure>");
+  }
+  for (const Chosen& one : chosen_) {
+    if (one.protocol == nullptr || one.protocol->family == SecurityFamilyId::Encryption) continue;
+    propose_subtype(security_family(one.protocol->family).protocol_type, one.protocol->subtype, one.protocol->label);
+  }
+  auto* const key_exchange = chosen<SB_PROT_DHKeyXChange>(kDHKeyXChange);
+  if (key_exchange != nullptr) key_exchange->NegotiateSKeyLength({});
+  if (auto* sha1 = chosen<SB_PROT_SHA1Authentication>(kSHA1Authentication)) sha1->NegotiateAuthKeyLength({});
+  if (key_exchange != nullptr) {
+    run_key_exchange();
+    log("DHKeyExchange procedure complete. SKey computed and verified successfully.");
+  }
+  return true;
+}
+
+bool SB_Security::run_key_exchange() {
+  constexpr SB_PROT_DHKeyXChange::Sources kSources{"SB_Security.RunDiffie_HellManKeyXChange",
+                                                   "SB_Security.SendANKeyComplReceiveATKeyCompl"};
+  if (auto* configured = chosen<SB_PROT_DHKeyXChange>(kDHKeyXChange)) return configured->run_exchange(kSources);
+  check_session_key_length(kSources.request);
+  const Ref<Object> once = make_dh(*this);
+  return static_cast<SB_PROT_DHKeyXChange&>(*once).run_exchange(kSources);
+}
+
+bool SB_Security::RunDiffie_HellManKeyXChange() {
+  warn_retired("RunDiffie_HellManKeyXChange");
+  check_initialized("SB_Security.RunDiffie_HellManKeyXChange");
+  return run_key_exchange();
+}
+
+}  // namespace vorlan

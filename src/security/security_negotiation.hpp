@@ -1,0 +1,80 @@
+// The negotiation that all protocol objects of the security layer share.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "attributes/simple_attribute.hpp"
+#include "sector/signalling.hpp"
+#include "security/security_protocol.hpp"
+
+namespace vorlan {
+
+/// The way to the access terminal that the protocol objects of one session share, TransactionIDs included.
+struct SecurityLink {
+  TestSetAccess access;
+  Ref<Object> signalling;
+  Ref<Object> messages;
+  std::uint8_t next_transaction_id = 0;
+
+  [[nodiscard]] Signalling open() const { return {access, signalling, messages}; }
+};
+
+/// The object that an argument of Initialize is; error 1 for anything else, Nothing included.
+Ref<Object> object_argument(const Value& argument, std::string_view source);
+/// The number that it is, from `lowest` to `highest`; the same error for anything that is no number, and nothing for
+/// one out of range.
+std::optional<std::int32_t> number_argument(const Value& argument, std::int32_t lowest, std::int32_t highest,
+                                            std::string_view source);
+/// A link of its own, for a protocol object that a script initialises; a configuration names the test set's members.
+std::shared_ptr<SecurityLink> new_link(const Value& signalling, const Value& messages,
+                                       const std::optional<Ref<Object>>& configuration, std::string_view source);
+
+/// One attribute with one value, and the parts of the texts that its failures raise.
+struct SecurityProposal {
+  std::string_view source;
+  std::int16_t protocol_type;
+  const SimpleAttribute& attribute;
+  std::string proposed;
+  std::string mismatched;
+  std::string rejected;
+};
+
+/// Proposes the attribute to the access terminal. Error 1 if it does not answer, answers to another TransactionID, or
+/// does not name this very value.
+void negotiate(SecurityLink& link, const SecurityProposal& proposal);
+
+/// How the texts about a protocol's subtype name the protocol.
+struct SubtypeTexts {
+  std::string_view proposed;
+  std::string_view mismatched;
+  std::string_view rejected;
+  std::string_view separator;
+};
+/// Proposes a subtype, 0 to 65535 (error 5 otherwise), of a protocol type.
+void negotiate_subtype(SecurityLink& link, std::string_view source, std::int16_t protocol_type, std::int32_t subtype,
+                       const SubtypeTexts& texts);
+
+/// The part of a protocol object that is the same in every class.
+class ProtocolNegotiation {
+ public:
+  explicit ProtocolNegotiation(const SecurityProtocol& protocol) noexcept : protocol_(&protocol) {}
+
+  void initialize(std::shared_ptr<SecurityLink> link) noexcept { link_ = std::move(link); }
+  [[nodiscard]] bool is_initialized() const noexcept { return link_ != nullptr; }
+  /// Error 1, in the protocol's own words, before initialize().
+  [[nodiscard]] SecurityLink& link(std::string_view source) const;
+  /// The protocol's own subtype if none is given. True, or an error.
+  bool negotiate_subtype(std::optional<std::int32_t> subtype) const;
+  /// "SB_PROT_GenericSecurity.Initialize"
+  [[nodiscard]] std::string source(std::string_view member) const;
+
+ private:
+  [[nodiscard]] std::string_view uninitialized() const noexcept;
+
+  const SecurityProtocol* protocol_;
+  std::shared_ptr<SecurityLink> link_;
+};
+
+}  // namespace vorlan

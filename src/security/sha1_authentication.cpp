@@ -1,0 +1,68 @@
+#include "security/sha1_authentication.hpp"
+
+#include "attributes/security_simple_attributes.hpp"
+#include "automation/error.hpp"
+#include "common/conversions.hpp"
+
+namespace vorlan {
+
+namespace {
+
+using P = SB_PROT_SHA1Authentication;
+
+constexpr int kKeyLengthBits = 16;
+constexpr std::string_view kInitialize = "SB_PROT_SHA1Authentication.Initialize";
+constexpr std::string_view kNegotiate = "SB_PROT_SHA1Authentication.NegotiateAuthKeyLength";
+
+constexpr std::array kMembers{
+    method<&P::Initialize>("Initialize", "signalling, keyLength, messages, configuration",
+                           "Takes the test set's signalling object, a key length in bits and the message collection"),
+    method<&P::NegotiateProtocolSubtype>("NegotiateProtocolSubtype", "subtype",
+                                         "Proposes the protocol, or another subtype of it; True if accepted"),
+    method<&P::NegotiateAuthKeyLength>("NegotiateAuthKeyLength", "keyLength",
+                                       "Proposes a key length in bits; True if accepted"),
+};
+
+}  // namespace
+
+ClassInfo::Texts SB_PROT_SHA1Authentication::texts() noexcept {
+  return {kSHA1Authentication.name, kSHA1Authentication.summary, kSHA1Authentication.clause};
+}
+std::span<const BoundMember> SB_PROT_SHA1Authentication::members() noexcept { return kMembers; }
+
+bool SB_PROT_SHA1Authentication::Initialize(const Value& signalling, const Value& key_length, const Value& messages,
+                                            const std::optional<Ref<Object>>& configuration) {
+  auto link = new_link(signalling, messages, configuration, kInitialize);
+  const auto bits = number_argument(key_length, 0, kLongestKey, kInitialize);
+  if (!bits) raise(kInitialize, "Invalid value of Auth Key Length specified.");
+  initialize(std::move(link), *bits);
+  return true;
+}
+
+void SB_PROT_SHA1Authentication::initialize(std::shared_ptr<SecurityLink> link, std::int32_t key_length) noexcept {
+  negotiation_.initialize(std::move(link));
+  key_length_ = key_length;
+}
+
+bool SB_PROT_SHA1Authentication::NegotiateAuthKeyLength(std::optional<std::int32_t> key_length) {
+  SecurityLink& link = negotiation_.link(kNegotiate);
+  const std::int32_t bits = key_length.value_or(key_length_);
+  if (bits < 0 || bits > kLongestKey) {
+    throw Error(ErrorNumber::InvalidCall, kNegotiate, "an authentication key has 0 to 65535 bits");
+  }
+  SB_Sec_AttrACAuthKeyLength attribute;
+  attribute.let<"PRstr_AttrValue">(long_to_bin(bits, kKeyLengthBits));
+  const std::string length = std::to_string(bits);
+  // "Key Exchange" is another protocol on purpose.
+  negotiate(link,
+            {.source = kNegotiate,
+             .protocol_type = protocol_types::kAuthentication,
+             .attribute = attribute,
+             .proposed = "ConfigurationRequest on Key Exchange Protocol proposing AuthKeyLength " + length,
+             .mismatched = "is not same as that of ConfigurationRequest message, proposing AuthKeyLength " + length,
+             .rejected = "AT rejected Auth Key Length " + length});
+  remember_negotiated_auth_key_length(*platform_->settings, bits);
+  return true;
+}
+
+}  // namespace vorlan

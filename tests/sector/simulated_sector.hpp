@@ -1,0 +1,52 @@
+// A sector of a simulated test set, with the configuration of the examples.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "examples/session.hpp"
+#include "simulator/script.hpp"
+
+namespace vorlan::test {
+
+struct SimulatedSector : Script {
+  explicit SimulatedSector(const std::string& name = "SECTOR 0")
+      : simulated(static_cast<simulator::TestSet*>(test_set.get())),
+        parameters(examples::load_configuration(fake.platform, VORLAN_EXAMPLES "/sector.ini", name)),
+        sector(examples::connect(fake.platform, simulated, parameters)) {
+    sector->let("PRstr_SectorName", name);
+  }
+
+  void run() { examples::run_session(fake.platform, simulated, *sector); }
+  Ref<Object> channel(std::string_view collection, const std::string& key) {
+    return part(collection)->call("Item", key).to_object();
+  }
+  Value of_trace(std::string_view what, int index) { return trace->get(what, i16(index)); }
+  [[nodiscard]] int messages() const { return trace->get("Count").to_integer(); }
+  /// Each message as "> label | octets", or "<" where the terminal sent it.
+  std::vector<std::string> rungs() {
+    std::vector<std::string> all;
+    for (int i = 0; i < messages(); ++i) {
+      const bool forward = of_trace("Direction", i).to_text() == "forward";
+      all.push_back((forward ? "> " : "< ") + of_trace("Label", i).to_text() + " | " + of_trace("Octets", i).to_text());
+    }
+    return all;
+  }
+  std::string report() { return part("TestReport")->get("Text").to_text(); }
+  [[nodiscard]] std::string state() const { return terminal->get("State").to_text(); }
+  /// What the session leaves at the test set: as it was, but for the message that is kept.
+  void expect_clean() {
+    EXPECT_EQ(signalling->get("Filters").to_integer(), 0);
+    EXPECT_EQ(signalling->get("Messages").to_object()->get("Keys"), Value(Value::Array{"ConfigurationCompleteMSG"}));
+    for (const char* channels : {"ForwardChannels", "AccessChannels"}) {
+      EXPECT_EQ(part(channels)->get("Count").to_integer(), 0) << channels;
+    }
+    EXPECT_FALSE(part("RadioChannelEmulator")->get("Enabled").to_boolean());
+    EXPECT_FALSE(part("ProtocolController")->get("StartFTAPTestPktTx").to_boolean());
+  }
+
+  Ref<simulator::TestSet> simulated;
+  Ref<Object> parameters;
+  Ref<SB_Sector> sector;
+};
+
+}  // namespace vorlan::test

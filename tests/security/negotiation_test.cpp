@@ -1,0 +1,199 @@
+// What the seven protocol objects propose to the access terminal, and every way in which that fails.
+#include "security/security_fixture.hpp"
+#include "support/message_cases.hpp"
+
+namespace vorlan::test {
+namespace {
+
+/// One negotiation of one class, with its texts as scripts know them.
+struct NegotiationCase {
+  std::string_view name;
+  std::string_view operation;
+  std::string_view number;  ///< subtype or key length, at the end of every text
+  const char* protocol;     ///< on which it is proposed
+  const char* record;
+  const char* refused;  ///< a record that names another value
+  std::string_view not_initialized;
+  std::string_view proposal;
+  std::string_view mismatch;
+  std::string_view rejection;
+  std::string_view uninitialized_class = {};  ///< in the source of that text; none: the name
+};
+constexpr std::string_view kSubtype = "NegotiateProtocolSubtype";
+constexpr NegotiationCase kCases[] = {
+    {"SB_PROT_DefaultSecurity", kSubtype, "0", "18", "04 00 08 00 00", "04 00 08 00 01",
+     "SB_PROT_DefaultSecurity object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Session configuration Protocol proposing use of Default Security protocol, subtype ",
+     "is not same as that of ConfigurationRequest message , sent to propose Default Security protocol, subtype ",
+     "AT rejected the use of Default Security protocol , subtype "},
+    {"SB_PROT_GenericSecurity", kSubtype, "1", "18", "04 00 08 00 01", "04 00 08 00 00",
+     "SB_PROT_GenericSecurity object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Session configuration Protocol proposing use of Generic Security protocol, subtype ",
+     "is not same as that of ConfigurationRequest message , sent to propose use of Generic Security protocol, subtype ",
+     "AT rejected the use of Generic Security protocol , subtype "},
+    {"SB_PROT_DefaultKeyXChange", kSubtype, "0", "18", "04 00 05 00 00", "04 00 05 01 00",
+     "SB_PROT_DefaultKeyXChange object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Session configuration Protocol proposing use of Default KeyXChange protocol, subtype ",
+     "is not same as that of ConfigurationRequest message , sent to propose Default KeyXChange protocol, subtype ",
+     "AT rejected the use of Default KeyXChange protocol , subtype "},
+    {"SB_PROT_DHKeyXChange", kSubtype, "1", "18", "04 00 05 00 01", "04 00 06 00 01",
+     "SB_PROT_DHXChange object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Session configuration Protocol proposing use of DHKeyXChange protocol, subtype ",
+     "is not same as that of ConfigurationRequest message , sent to propose DHKeyXChange protocol, subtype ",
+     "AT rejected the use of DHKeyXChange protocol , subtype ", "SB_PROT_DHXChange"},
+    {"SB_PROT_DefaultAuthentication", kSubtype, "0", "18", "04 00 06 00 00", "04 00 06 00 01",
+     "SB_PROT_DefaultAuthentication object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Session configuration Protocol proposing use of Default Authentication protocol, "
+     "subtype ",
+     "is not same as that of ConfigurationRequest message , sent to propose Default Authentication Protocol, subtype ",
+     "AT rejected the use of Default Authentication protocol , Subtype "},
+    {"SB_PROT_SHA1Authentication", kSubtype, "1", "18", "04 00 06 00 01", "03 06 00 01",
+     "SB_PROT_SHA1Authentication object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Session configuration Protocol proposing use of SHA-1 Authentication protocol, subtype ",
+     "is not same as that of ConfigurationRequest message , sent to propose SHA-1 Authentication Protocol, subtype ",
+     "AT rejected the use of SHA-1 Authentication Protocol , Subtype "},
+    {"SB_PROT_DefaultEncryption", kSubtype, "0", "18", "04 00 07 00 00", "04 00 07 00",
+     "SB_PROT_DefaultEncryption object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Session configuration Protocol proposing use of Default Encryption protocol, subtype ",
+     "is not same as that of ConfigurationRequest message , sent to propose Default Encryption protocol, subtype ",
+     "AT rejected the use of Default Encryption protocol , subtype "},
+    {"SB_PROT_DHKeyXChange", "NegotiateSKeyLength", "768", "5", "02 00 00", "02 00 01",
+     "SB_PROT_DHXChange object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Key Exchange Protocol proposing SKeyLength ",
+     "is not same as that of ConfigurationRequest message, proposing SKeyLength ", "AT rejected SKey Length "},
+    {"SB_PROT_SHA1Authentication", "NegotiateAuthKeyLength", "160", "6", "03 00 00 A0", "03 00 00 A1",
+     "SB_PROT_SHA1Authentication object not initialized. Please call <Initialize> method first.",
+     "ConfigurationRequest on Key Exchange Protocol proposing AuthKeyLength ",
+     "is not same as that of ConfigurationRequest message, proposing AuthKeyLength ", "AT rejected Auth Key Length "},
+};
+
+/// The arguments of a class's Initialize, as they should be.
+std::vector<Value> arguments_of(const SecurityFixture& f, std::string_view name) {
+  std::vector<Value> arguments{f.signalling_value(), f.messages_value()};
+  if (name == "SB_PROT_SHA1Authentication") arguments.insert(arguments.begin() + 1, Value(160));
+  if (name == "SB_PROT_DHKeyXChange") {
+    arguments.insert(arguments.begin() + 1, {Value(Ref<Object>(f.security_object)), integer(768)});
+  }
+  return arguments;
+}
+
+Ref<Object> initialized(SecurityFixture& f, std::string_view name) {
+  static const Registry kRegistry(class_tables());
+  const Ref<Object> object = kRegistry.create(name, f.system.platform);
+  std::vector<Value> arguments = arguments_of(f, name);
+  EXPECT_TRUE(object->invoke("Initialize", Access::Call, arguments).to_boolean());
+  return object;
+}
+
+template <class F>
+void for_every_negotiation(F&& test) {
+  for (const NegotiationCase& c : kCases) {
+    SCOPED_TRACE(std::string(c.name).append(".").append(c.operation));
+    SecurityFixture f;
+    test(f, c, initialized(f, c.name));
+  }
+}
+
+TEST(SecurityNegotiation, ProposesOneValue) {
+  for_every_negotiation([](SecurityFixture& f, const NegotiationCase& c, const Ref<Object>& object) {
+    for (const char* transaction : {"00", "01"}) {
+      EXPECT_TRUE(object->call(c.operation).to_boolean());
+      EXPECT_EQ(f.take_calls(),
+                (Calls{"Sig.CreateMessageObject()",
+                       std::string("Sig.SendAndWait(ConfigRequestMessage|3|1|[50 ") + transaction + " " + c.record +
+                           "]|" + c.protocol + "|0|2|40|-1|ConfigResponseMessage|1|250)",
+                       "Messages.Item(ConfigResponseMessage)", "Messages.Remove(ConfigResponseMessage)"}));
+    }
+  });
+}
+
+TEST(SecurityNegotiation, FailsWithItsOwnTexts) {
+  for_every_negotiation([](SecurityFixture& f, const NegotiationCase& c, const Ref<Object>& object) {
+    const std::string source = std::string(c.name).append(".").append(c.operation);
+    const auto expect = [&](std::string_view front, std::string_view text) {
+      f.take_calls();
+      EXPECT_EQ(raised_by([&] { object->call(c.operation); }),
+                (Raised{1, source, std::string(front).append(text).append(c.number)}));
+      return f.take_calls().back();
+    };
+    std::string& reply = f.replies["ConfigResponseMessage"];
+    for (const char* other : {"51 FF", "51", ""}) {
+      reply = other;
+      EXPECT_EQ(expect("TransactionID field of ConfigurationResponse message ", c.mismatch),
+                "Messages.Remove(ConfigResponseMessage)");
+    }
+    for (const std::string& refusal : {std::string("51 ##"), std::string("51 ## ") + c.refused}) {
+      reply = refusal;
+      EXPECT_EQ(expect("", c.rejection), "Messages.Remove(ConfigResponseMessage)");
+    }
+    f.silent_to = "ConfigRequestMessage";
+    EXPECT_NE(expect("ConfigurationResponse not received from the AT for ", c.proposal),
+              "Messages.Remove(ConfigResponseMessage)");
+    EXPECT_TRUE(f.system.settings->values.empty()) << "only what is accepted is remembered";
+  });
+}
+
+TEST(SecurityNegotiation, NeedsInitialize) {
+  for (const NegotiationCase& c : kCases) {
+    const std::string_view owner = c.uninitialized_class.empty() ? c.name : c.uninitialized_class;
+    EXPECT_EQ(raised_by([&] { create(c.name)->call(c.operation); }),
+              (Raised{1, std::string(owner).append(".").append(c.operation), std::string(c.not_initialized)}));
+  }
+}
+
+TEST(SecurityNegotiation, InitializeWantsObjectsAndLengths) {
+  for (const NegotiationCase& c : kCases) {
+    if (c.operation != kSubtype) continue;
+    SecurityFixture f;
+    const Raised wrong{1, std::string(c.name) + ".Initialize", "Invalid argument type or value not of expected type."};
+    const std::size_t count = arguments_of(f, c.name).size();
+    for (std::size_t i = 0; i < count; ++i) {
+      for (const Value& bad : {Value(Ref<Object>()), Value("text"), Value(Null{})}) {
+        std::vector<Value> arguments = arguments_of(f, c.name);
+        arguments[i] = bad;
+        const Ref<Object> object = create(c.name);
+        EXPECT_EQ(raised_by([&] { object->invoke("Initialize", Access::Call, arguments); }), wrong) << c.name << i;
+        EXPECT_EQ(error_number([&] { object->call(c.operation); }), 1) << "still not initialised";
+      }
+    }
+  }
+  SecurityFixture f;
+  for (const double bits : {-1.0, 65536.0, 1e12}) {
+    EXPECT_EQ(
+        raised_by([&] {
+          create("SB_PROT_SHA1Authentication")->call("Initialize", f.signalling_value(), bits, f.messages_value());
+        }),
+        (Raised{1, "SB_PROT_SHA1Authentication.Initialize", "Invalid value of Auth Key Length specified."}));
+  }
+  EXPECT_EQ(error_number([&] {
+              create("SB_PROT_DHKeyXChange")
+                  ->call("Initialize", f.signalling_value(), Ref<Object>(f.security_object), 512, f.messages_value());
+            }),
+            1);
+}
+
+TEST(SecurityNegotiation, TakesAnotherNumberAndRemembersIt) {
+  SecurityFixture f;
+  const Ref<Object> key_exchange = initialized(f, "SB_PROT_DHKeyXChange");
+  EXPECT_TRUE(key_exchange->call("NegotiateSKeyLength", 1024).to_boolean());
+  EXPECT_NE(f.take_calls()[1].find("[50 00 02 00 01]"), std::string::npos);
+  EXPECT_EQ(f.setting("KeyExchangeFields", "MRUSKeyLength"), "1024");
+  EXPECT_EQ(error_number([&] { key_exchange->call("NegotiateSKeyLength", 96); }), 5);
+  key_exchange->call("ClearSessionStateInfo");
+  EXPECT_EQ(f.setting("KeyExchangeFields", "MRUSKeyLength"), "0");
+
+  const Ref<Object> authentication = initialized(f, "SB_PROT_SHA1Authentication");
+  EXPECT_TRUE(authentication->call("NegotiateAuthKeyLength", 65535).to_boolean());
+  EXPECT_EQ(f.setting("AuthenticationFields", "MRUAuthKeyLength"), "65535");
+  EXPECT_EQ(f.setting("AuthFields", "MRUAuthKeyLength"), "none") << "the two are kept apart";
+  for (const std::int32_t bits : {-1, 65536}) {
+    EXPECT_EQ(error_number([&] { authentication->call("NegotiateAuthKeyLength", bits); }), 5);
+    EXPECT_EQ(error_number([&] { authentication->call("NegotiateProtocolSubtype", bits); }), 5);
+  }
+  f.replies["ConfigResponseMessage"] = "51 ##";
+  EXPECT_EQ(raised_by([&] { authentication->call("NegotiateProtocolSubtype", 7); }).description,
+            "AT rejected the use of SHA-1 Authentication Protocol , Subtype 7");
+}
+
+}  // namespace
+}  // namespace vorlan::test
