@@ -39,6 +39,7 @@ TIMES = [
     ("simple attribute, the slowest: build, read back", "BuildAndReadSlowestSimpleAttribute", 300),
     ("a whole session through library and simulator", "WholeSession", 1e6),
     ("the same from Python", "whole session from Python", 3e6),
+    ("security of a session, key exchange of 1024 bits", "KeyExchange", 50e6),
     ("T2PTransitionFunctionNN, 4 x 4: build, read back", "BuildAndReadT2PTransitionFunction", 10e3),
 ]
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}

@@ -4,6 +4,7 @@
 #include "parameters/global_parameters.hpp"
 #include "sector/reverse_traffic_channel.hpp"
 #include "sector/sector.hpp"
+#include "security/security.hpp"
 #include "simulator/test_set.hpp"
 
 namespace vorlan::examples {
@@ -29,13 +30,45 @@ inline Ref<SB_Sector> connect(Platform& platform, const Ref<simulator::TestSet>&
   return sector;
 }
 
-inline void run_session(Platform& platform, const Ref<simulator::TestSet>& test_set, SB_Sector& sector) {
+/// Generic security, a Diffie-Hellman key exchange with 1024 bits, and SHA-1 authentication.
+inline void secure(Platform& platform, SB_Sector& sector) {
+  using Family = SecurityFamilyId;
+  constexpr std::int16_t kSessionKeyBits = 1024;
+  constexpr std::int32_t kAuthenticationKeyBits = 160;
+  const Ref<Object> parameters = sector.global_parameters();
+  for (const char* type : {"PRint_SecurityType", "PRint_KeyXChangeType", "PRint_AuthenticationType"}) {
+    parameters->let(type, std::int16_t{1});
+  }
+  parameters->let("PRint_SKeyLength", kSessionKeyBits);
+  parameters->let("PRlng_AuthKeyLength", kAuthenticationKeyBits);
+  SB_Security security(platform);
+  security.Initialise(Ref<Object>(&sector));
+  security.configure_family<Family::Security>();
+  security.configure_family<Family::KeyXChange>();
+  security.configure_family<Family::Authentication>();
+  security.configure_family<Family::Encryption>();
+
+  security.protocol<kGenericSecurity>()->call("NegotiateProtocolSubtype");
+  const Ref<Object> exchange = security.protocol<kDHKeyXChange>();
+  exchange->call("NegotiateProtocolSubtype");
+  exchange->call("NegotiateSKeyLength", kSessionKeyBits);
+  exchange->call("ExecuteDHKeyXChange");
+  const Ref<Object> authentication = security.protocol<kSHA1Authentication>();
+  authentication->call("NegotiateProtocolSubtype");
+  authentication->call("NegotiateAuthKeyLength", kAuthenticationKeyBits);
+  security.protocol<kDefaultEncryption>()->call("NegotiateProtocolSubtype");
+}
+
+inline void run_session(Platform& platform, const Ref<simulator::TestSet>& test_set, SB_Sector& sector,
+                        bool secured = true) {
   sector.ConfigureFwdAndAccChannel(true, std::int16_t{0});
 
   // The access network opens the session configuration, the terminal proposes, and both complete.
   sector.StartSessionNegotiationFromAN();
   std::int16_t transaction = 0;
   sector.EndSessionNegotiationFromAN(transaction);
+
+  if (secured) secure(platform, sector);
 
   sector.AcquireReverseTrafficChannel();
   SB_PROT_RevTrafficChannel reverse(platform);

@@ -42,7 +42,30 @@ def connect(test_set, parameters, name="SECTOR 0"):
     return sector
 
 
-def run(test_set, sector):
+def secure(sector):
+    """Generic security, a Diffie-Hellman key exchange with 1024 bits, and SHA-1 authentication."""
+    parameters = sector.PRobj_GlobalParameters
+    parameters.PRint_SecurityType = parameters.PRint_KeyXChangeType = parameters.PRint_AuthenticationType = 1
+    parameters.PRint_SKeyLength, parameters.PRlng_AuthKeyLength = 1024, 160
+    security = vorlan.CreateObject("Vorlan.SB_Security")
+    security.Initialise(sector)
+    security.ConfigureSecurity()
+    security.ConfigureKeyXChange()
+    security.ConfigureAuthentication()
+    security.ConfigureEncryption()
+
+    security.PRobj_PROT_GenericSecurity.NegotiateProtocolSubtype()
+    exchange = security.PRobj_PROT_DHKeyXChange
+    exchange.NegotiateProtocolSubtype()
+    exchange.NegotiateSKeyLength(1024)
+    exchange.ExecuteDHKeyXChange()
+    authentication = security.PRobj_PROT_SHA1Authentication
+    authentication.NegotiateProtocolSubtype()
+    authentication.NegotiateAuthKeyLength(160)
+    security.PRobj_PROT_DefaultEncryption.NegotiateProtocolSubtype()
+
+
+def run(test_set, sector, secured=True):
     sector.ConfigureFwdAndAccChannel(True, 0)
 
     # The access network opens the session configuration, the terminal proposes, and both complete.
@@ -50,6 +73,9 @@ def run(test_set, sector):
     transaction = vorlan.ByRef(0)
     sector.EndSessionNegotiationFromAN(transaction)
     print(f"Session configured; the terminal's last TransactionID was {transaction.value}.")
+
+    if secured:
+        secure(sector)
 
     sector.AcquireReverseTrafficChannel()
     reverse = vorlan.CreateObject("Vorlan.SB_PROT_RevTrafficChannel")
