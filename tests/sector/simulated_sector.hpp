@@ -16,7 +16,32 @@ struct SimulatedSector : Script {
     sector->let("PRstr_SectorName", name);
   }
 
-  void run() { examples::run_session(fake.platform, simulated, *sector); }
+  /// A whole session without security.
+  void run() {
+    sector->call("ConfigureFwdAndAccChannel", true, i16(0));
+    sector->call("StartSessionNegotiationFromAN");
+    sector->call("EndSessionNegotiationFromAN", i16(0));
+    sector->call("AcquireReverseTrafficChannel");
+    const auto reverse = make<SB_PROT_RevTrafficChannel>(fake.platform);
+    reverse->call("Initialize", parameters, signalling, signalling->get("Messages"));
+    reverse->call("NegotiateRateParametersAttribute");
+    reverse->call("NegotiatePowerParametersAttribute");
+
+    parameters->let("PRbln_FadingEnabled", true);
+    sector->let("PR_intReferenceVelocity", i16(30));
+    sector->let("PR_intNumPath", i16(2));
+    sector->call("EnableFading");
+    sector->call("SetGainAndDelay", i16(1), -3.0, 0.0);
+    sector->call("SetGainAndDelay", i16(2), -6.0, Null{});
+    sector->call("NegotiateFTAP", true, true, false, false);
+    sector->call("EnableFTAPTestPktFlow");
+    sector->call("LowerLevel", 10.0F, i16(2));
+    sector->call("RaiseLevel", 5.0F, i16(2));
+    sector->call("DisableFTAPTestPktFlow");
+    sector->call("SendFTAPClearStats");
+    sector->call("DestoyFadingObjects");
+    sector->call("CleanUp");
+  }
   Ref<Object> channel(std::string_view collection, const std::string& key) {
     return part(collection)->call("Item", key).to_object();
   }

@@ -1,0 +1,157 @@
+// A client in C++ does what no scripting host does: typed references, named arguments, a look at the error's parts and
+// at the type library. Prints what fails, and how many.
+#include <array>
+#include <cstdio>
+
+#include "late_bound.hpp"
+#include "server/com/apartment.hpp"
+#include "server/com/guid.hpp"
+
+namespace {
+
+using namespace vorlan;
+using namespace vorlan::com;
+
+int checks = 0;
+int failures = 0;
+
+void holds(const char* what, bool condition) {
+  ++checks;
+  if (condition) return;
+  ++failures;
+  std::printf("FAILED %s\n", what);
+}
+
+bool is_text(const VARIANT& value, std::wstring_view wanted) {
+  return value.vt == VT_BSTR && view(value.bstrVal) == wanted;
+}
+
+/// A negative number lowers the caller's width from 8 to 7, whatever type the caller keeps it in.
+void arguments_by_reference(LateBound& functions) {
+  const auto call = [&](VARIANT width) {
+    return functions.invoke(L"LongToBin", DISPATCH_METHOD, {long_value(-5), width}) == S_OK;
+  };
+  SHORT small = 8;
+  holds("Integer", call(reference(VT_I2, &small)) && small == 7);
+  LONG number = 8;
+  holds("Long", call(reference(VT_I4, &number)) && number == 7);
+  double real = 8;
+  holds("Double", call(reference(VT_R8, &real)) && real == 7);
+  BYTE octet = 8;
+  holds("Byte", call(reference(VT_UI1, &octet)) && octet == 7);
+  DECIMAL decimal{};
+  VarDecFromI4(8, &decimal);
+  LONG whole = 0;
+  holds("Decimal", call(reference(VT_DECIMAL, &decimal)) && VarI4FromDec(&decimal, &whole) == S_OK && whole == 7);
+  Variant any;
+  *any = long_value(8);
+  holds("Variant", call(reference(VT_VARIANT, any.get())) && any->vt == VT_I4 && any->lVal == 7);
+  holds("plain value", call(long_value(8)));
+  BSTR text = SysAllocString(L"8");
+  holds("String", call(reference(VT_BSTR, &text)) && view(text) == L"7");
+  SysFreeString(text);
+
+  BSTR bits = SysAllocString(L"101");
+  holds("text by reference", functions.invoke(L"AddPadding", DISPATCH_METHOD, {reference(VT_BSTR, &bits)}) == S_OK &&
+                                 view(bits) == L"10100000" && is_text(*functions.result, L"10100000"));
+  SysFreeString(bits);
+}
+
+void names(LateBound& functions) {
+  std::array<wchar_t*, 2> asked{const_cast<wchar_t*>(L"CALCULATECENTREFREQUENCY"),
+                                const_cast<wchar_t*>(L"channelnumber")};
+  std::array<DISPID, 2> ids{};
+  IDispatch& object = *functions.object.get();
+  holds("member and parameter",
+        object.GetIDsOfNames(IID_NULL, asked.data(), 2, LOCALE_USER_DEFAULT, ids.data()) == S_OK &&
+            ids[0] == member_id("CalculateCentreFrequency") && ids[1] == 1);
+  asked[0] = const_cast<wchar_t*>(L"NoSuchMember");
+  holds("unknown name",
+        object.GetIDsOfNames(IID_NULL, asked.data(), 1, LOCALE_USER_DEFAULT, ids.data()) == DISP_E_UNKNOWNNAME);
+  // The named ones come last here, and first where COM looks for them.
+  holds("named arguments", functions.invoke(L"CalculateCentreFrequency", DISPATCH_METHOD,
+                                            {long_value(384), long_value(0)}, {0, 1}) == S_OK &&
+                               functions.result->vt == VT_R8 && functions.result->dblVal == 881.52);
+  holds("named twice", functions.invoke(L"CalculateCentreFrequency", DISPATCH_METHOD, {long_value(384), long_value(0)},
+                                        {0, 0}) == DISP_E_EXCEPTION &&
+                           functions.information.scode == scode_of(450));
+}
+
+void errors() {
+  LateBound message(L"Vorlan.SB_Ses_MsgSessionClose.1");
+  VARIANT bits;
+  bits.vt = VT_BSTR;
+  bits.bstrVal = SysAllocString(L"11");
+  message.invoke(L"Initialize", DISPATCH_METHOD, {VARIANT{}});
+  const HRESULT result = message.invoke(L"PRstr_CloseReason", DISPATCH_PROPERTYPUT, {bits}, {DISPID_PROPERTYPUT});
+  holds("error", result == DISP_E_EXCEPTION);
+  holds("its number", message.information.scode == static_cast<SCODE>(0x800A0001) && message.information.wCode == 0);
+  holds("its source", view(message.information.bstrSource) == L"SB_Ses_MsgSessionClose.PRstr_CloseReason");
+  holds("its text", view(message.information.bstrDescription) == L"Length of <CloseReason> field should be 8 bits.");
+  SysFreeString(bits.bstrVal);
+  const auto supports = message.object.as<ISupportErrorInfo>(IID_ISupportErrorInfo);
+  holds("error information", supports && supports->InterfaceSupportsErrorInfo(IID_IDispatch) == S_OK);
+}
+
+void arrays(LateBound& functions) {
+  LateBound report(L"VorlanSim.TestReport");
+  SAFEARRAY* names = SafeArrayCreateVector(VT_BSTR, 1, 2);
+  for (LONG i = 1; i <= 2; ++i) {
+    BSTR name = SysAllocString(i == 1 ? L"First" : L"Second");
+    SafeArrayPutElement(names, &i, name);
+    SysFreeString(name);
+  }
+  VARIANT to;
+  to.vt = VT_DISPATCH;
+  to.pdispVal = report.object.get();
+  const VARIANT array = reference(VT_ARRAY | VT_BSTR, &names);
+  holds("array of texts",
+        functions.invoke(L"LogScriptSpecificParameters", DISPATCH_METHOD, {to, array, array}) == S_OK);
+  holds("its lines", report.invoke(L"Count", DISPATCH_PROPERTYGET, {}) == S_OK && report.result->lVal >= 2);
+  SafeArrayDestroy(names);
+}
+
+void type_library(LateBound& functions) {
+  ComPointer<ITypeLib> library;
+  holds("registered", LoadRegTypeLib(guid_of(library_uuid("Vorlan")), 1, 0, LOCALE_NEUTRAL, library.out()) == S_OK);
+  holds("two entries for a class",
+        library && library->GetTypeInfoCount() > 550 && library->GetTypeInfoCount() % 2 == 0);
+  ComPointer<ITypeInfo> info;
+  holds("of an object", functions.object->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.out()) == S_OK);
+  if (!info) return;
+  BSTR name = nullptr;
+  info->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
+  holds("its name", view(name) == L"_SB_GeneralFunctions");
+  SysFreeString(name);
+  // From the file: its names are not asked for across processes.
+  holds("the members",
+        library->GetTypeInfoOfGuid(guid_of(members_uuid("Vorlan.SB_GeneralFunctions")), info.out()) == S_OK);
+  if (!info) return;
+  auto* member = const_cast<wchar_t*>(L"LongToBin");
+  MEMBERID id = MEMBERID_NIL;
+  std::array<BSTR, 3> members{};
+  UINT count = 0;
+  holds("a member", info->GetIDsOfNames(&member, 1, &id) == S_OK && id == member_id("LongToBin"));
+  holds("its parameters", info->GetNames(id, members.data(), 3, &count) == S_OK && count == 3 &&
+                              view(members[1]) == L"value" && view(members[2]) == L"width");
+  for (BSTR text : members) SysFreeString(text);
+  ComPointer<ITypeInfo> created;
+  holds("the class", library->GetTypeInfoOfGuid(guid_of(class_uuid("Vorlan.SB_Sector")), created.out()) == S_OK);
+}
+
+}  // namespace
+
+int main() try {
+  const Apartment apartment;
+  LateBound functions(L"Vorlan.SB_GeneralFunctions");
+  arguments_by_reference(functions);
+  names(functions);
+  errors();
+  arrays(functions);
+  type_library(functions);
+  std::printf("%d checks, %d failed\n", checks, failures);
+  return failures == 0 && checks > 0 ? 0 : 1;
+} catch (const Error& error) {
+  std::printf("FAILED %s\n", error.description().c_str());
+  return 1;
+}
