@@ -33,7 +33,8 @@ struct Setting {
 
 std::vector<Value> indices_of(const Assignment& assignment) {
   std::vector<Value> indices;
-  for (std::string_view rest = assignment.index.value_or(""); !rest.empty();) {
+  const std::string typed = assignment.index.value_or("");
+  for (std::string_view rest = typed; !rest.empty();) {
     const std::size_t comma = std::min(rest.find(','), rest.size());
     indices.emplace_back(rest.substr(0, comma));
     rest.remove_prefix(std::min(comma + 1, rest.size()));

@@ -7,6 +7,7 @@ namespace vorlan {
 
 namespace {
 
+constexpr std::size_t kOctet = 8;
 constexpr std::int16_t kAnswerCode = 1;
 constexpr std::int16_t kAnswerTimeOut = 5 * test_set::kTimeOutsPerSecond;
 
@@ -36,7 +37,8 @@ ProposalOutcome propose(Signalling& signalling, const AttributeProposal& proposa
   if (keeps_request) signalling.remove_message(proposal.response_label);
   if (response.transaction_id() != transaction_id) return {Answer::OtherTransaction};
   const std::string_view record = response.record(proposal.attribute_id);
-  if (record.empty()) return {Answer::Refused};
+  // What is cut short by the message's end accepts nothing.
+  if (record.empty() || record.size() != kOctet * (1 + small_value(record.substr(0, kOctet)))) return {Answer::Refused};
   if (!keeps_request) signalling.remove_message(proposal.response_label);
   return {Answer::Accepted, std::string(record)};
 }

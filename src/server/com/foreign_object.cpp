@@ -1,0 +1,165 @@
+#include "server/com/foreign_object.hpp"
+
+#include <dispex.h>
+
+#include <memory>
+#include <vector>
+
+#include "server/com/com_error.hpp"
+#include "server/com/guid.hpp"
+
+namespace vorlan::com {
+
+namespace {
+
+/// Arguments as COM takes them, last one first. By reference, each is a Variant that refers to another one.
+class Arguments {
+ public:
+  Arguments(std::span<const Value> values, bool by_reference, Objects& objects)
+      : objects_(objects), held_(std::make_unique<Variant[]>(values.size())), passed_(values.size()) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      VARIANT& passed = passed_[values.size() - 1 - i];
+      VARIANT& held = *held_[i];
+      to_variant(values[i], held, objects);
+      passed = held;
+      if (!by_reference) continue;
+      passed.vt = VT_BYREF | VT_VARIANT;
+      passed.pvarVal = &held;
+    }
+  }
+  std::vector<VARIANT>& passed() noexcept { return passed_; }
+  void take_back(std::span<Value> values) {
+    for (std::size_t i = 0; i < values.size(); ++i) values[i] = to_value(*held_[i], objects_);
+  }
+
+ private:
+  Objects& objects_;
+  std::unique_ptr<Variant[]> held_;
+  std::vector<VARIANT> passed_;
+};
+
+// {a6ef9860-c720-11d0-9337-00a0c90dcaa9}; not every compiler's libraries have it.
+constexpr IID kExtended{0xA6EF9860, 0xC720, 0x11D0, {0x93, 0x37, 0x00, 0xA0, 0xC9, 0x0D, 0xCA, 0xA9}};
+
+std::string class_of(IDispatch& dispatch) {
+  ComPointer<ITypeInfo> info;
+  BSTR name = nullptr;
+  if (FAILED(dispatch.GetTypeInfo(0, LOCALE_USER_DEFAULT, info.out())) || !info ||
+      FAILED(info->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr))) {
+    return "Object";
+  }
+  std::string text = narrow_text(view(name));
+  SysFreeString(name);
+  return text;
+}
+
+}  // namespace
+
+ForeignObject::ForeignObject(ComPointer<IDispatch> dispatch, Objects& objects) noexcept
+    : dispatch_(std::move(dispatch)), objects_(objects) {}
+ForeignObject::~ForeignObject() = default;
+
+ComPointer<IDispatchEx> ForeignObject::extended() const { return dispatch_.as<IDispatchEx>(kExtended); }
+
+ForeignObject::Member ForeignObject::find(std::string_view name) {
+  {
+    const std::scoped_lock guard(mutex_);
+    const auto known = members_.find(name);
+    if (known != members_.end()) return known->second;
+  }
+  std::wstring wide = wide_text(name);
+  wchar_t* names = wide.data();
+  Member member{DISPID_UNKNOWN, false};
+  HRESULT result = dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &member.id);
+  if (FAILED(result)) {
+    // Some script engines answer names here alone, and others are particular about capitals there.
+    if (const auto other = extended()) {
+      const BSTR text = SysAllocString(names);
+      member.extended = true;
+      result = other->GetDispID(text, fdexNameCaseInsensitive, &member.id);
+      SysFreeString(text);
+    }
+  }
+  // The default member is known by its number, whatever it is called.
+  if (FAILED(result) && equals_ignoring_case(name, "Item")) return {DISPID_VALUE, false};
+  if (FAILED(result)) {
+    EXCEPINFO none{};
+    if (result == DISP_E_UNKNOWNNAME || result == E_NOTIMPL || result == DISP_E_MEMBERNOTFOUND) {
+      throw Error(ErrorNumber::MemberNotFound, class_of(*dispatch_.get()), name);
+    }
+    throw error_of(result, none, name);
+  }
+  const std::scoped_lock guard(mutex_);
+  return members_.emplace(name, member).first->second;
+}
+
+HRESULT ForeignObject::call(const Member& member, WORD kind, DISPPARAMS& parameters, Variant& result,
+                            EXCEPINFO& information) {
+  const bool assigns = (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+  VARIANT* answer = assigns ? nullptr : result.get();
+  if (member.extended) {
+    const auto other = extended();
+    if (!other) return E_NOINTERFACE;
+    return other->InvokeEx(member.id, LOCALE_USER_DEFAULT, kind, &parameters, answer, &information, nullptr);
+  }
+  UINT bad_argument = 0;
+  return dispatch_->Invoke(member.id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, answer, &information,
+                           &bad_argument);
+}
+
+/// A server may know only one of several kinds of access that mean the same to a client.
+HRESULT ForeignObject::try_kinds(const Member& member, Access access, DISPPARAMS& parameters, Variant& result,
+                                 EXCEPINFO& information) {
+  const auto kinds = [&]() -> std::array<WORD, 2> {
+    constexpr WORD kEither = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+    switch (access) {
+      case Access::Let: return {DISPATCH_PROPERTYPUT, DISPATCH_PROPERTYPUTREF};
+      case Access::Set: return {DISPATCH_PROPERTYPUTREF, DISPATCH_PROPERTYPUT};
+      case Access::Call: return {kEither, DISPATCH_METHOD};
+      case Access::Get: break;
+    }
+    // Asked for either, a script's own object would call the value that a property holds.
+    if (parameters.cArgs == 0) return {DISPATCH_PROPERTYGET, kEither};
+    return {kEither, DISPATCH_PROPERTYGET};
+  }();
+  const HRESULT first = call(member, kinds[0], parameters, result, information);
+  if (first != DISP_E_MEMBERNOTFOUND) return first;
+  return call(member, kinds[1], parameters, result, information);
+}
+
+Value ForeignObject::invoke(std::string_view member, Access access, std::span<Value> arguments) {
+  const Member found = find(member);
+  const bool assigns = access == Access::Let || access == Access::Set;
+  Variant result;
+  EXCEPINFO information{};
+  DISPID value_name = DISPID_PROPERTYPUT;
+  HRESULT status = E_FAIL;
+  for (const bool by_reference : {access == Access::Call, false}) {
+    Arguments passed(arguments, by_reference, objects_);
+    DISPPARAMS parameters{passed.passed().data(), assigns ? &value_name : nullptr, static_cast<UINT>(arguments.size()),
+                          assigns ? 1U : 0U};
+    status = try_kinds(found, access, parameters, result, information);
+    // A server that wants plain values has refused before it did anything.
+    if (by_reference && status == DISP_E_TYPEMISMATCH) continue;
+    if (by_reference) passed.take_back(arguments);
+    break;
+  }
+  if (FAILED(status)) throw error_of(status, information, class_of(*dispatch_.get()).append(".").append(member));
+  return to_value(*result, objects_);
+}
+
+Ref<Object> create_foreign_object(std::string_view prog_id, Objects& objects) {
+  CLSID id;
+  if (FAILED(CLSIDFromProgID(wide_text(prog_id).c_str(), &id)) || IsEqualGUID(id, guid_of(class_uuid(prog_id))) != 0) {
+    return {};
+  }
+  ComPointer<IDispatch> made;
+  const HRESULT result =
+      CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IDispatch, made.out_void());
+  // Registered for programs of another kind, such as 32-bit ones.
+  if (result == REGDB_E_CLASSNOTREG) return {};
+  check(result, prog_id);
+  return make<ForeignObject>(std::move(made), objects);
+}
+
+}  // namespace vorlan::com

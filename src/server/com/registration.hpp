@@ -1,0 +1,29 @@
+// Entering the server in the system's registry, and taking it out again.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "automation/registry.hpp"
+
+namespace vorlan::com {
+
+enum class Scope { Machine, User };
+
+struct Registration {
+  Scope scope = Scope::Machine;
+  std::filesystem::path program;  ///< what the system starts
+};
+
+/// The servers of a registry's classes, each once.
+std::vector<std::string> servers_of(const Registry& registry);
+
+/// Enters every class under its names and writes and enters the type libraries. Classes whose name belongs to another
+/// server already are left to it. What an earlier registration left is replaced; on an error nothing is left.
+void enter(const Registry& registry, const Registration& registration);
+
+/// Takes out all that enter() made; what is not there, or is another server's, is left alone.
+void take_out(const Registry& registry, const Registration& registration);
+
+}  // namespace vorlan::com

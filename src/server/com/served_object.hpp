@@ -1,0 +1,56 @@
+// An object of the library as COM clients see it.
+#pragma once
+
+#include <atomic>
+
+#include "automation/registry.hpp"
+#include "server/com/com_headers.hpp"
+#include "server/com/host.hpp"
+
+namespace vorlan::com {
+
+class ServedObject final : public IDispatch, public ISupportErrorInfo, public IProvideClassInfo {
+ public:
+  /// A new object of a class. It is made by the first call, which tells whose it is: activation comes from the system.
+  ServedObject(Host& host, const ClassEntry& entry);
+  /// An object that a call gives back; its class is that of info_of().
+  ServedObject(Host& host, Client& client, Ref<Object> object, const MemberIds& ids);
+  ServedObject(const ServedObject&) = delete;
+  ServedObject& operator=(const ServedObject&) = delete;
+
+  static const ClassInfo& info_of(const Object& object);
+
+  /// The object itself; made for this client if it is not there yet. The client's lock is held.
+  const Ref<Object>& object(Client& client);
+  [[nodiscard]] bool is_of(const Client& client) const noexcept { return client_ == &client; }
+  bool add_reference_if_alive() noexcept;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) noexcept override;
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() noexcept override;
+
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
+                                          DISPID* ids) noexcept override;
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD kind, DISPPARAMS* parameters,
+                                   VARIANT* result, EXCEPINFO* information, UINT* bad_argument) noexcept override;
+
+  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) noexcept override;
+
+ private:
+  ~ServedObject();
+  Client& client();
+  Value call(const MemberInfo& member, WORD kind, DISPPARAMS& parameters, Client& client);
+
+  std::atomic<ULONG> references_{1};
+  Host& host_;
+  const ClassEntry* entry_ = nullptr;
+  const ClassInfo& info_;
+  const MemberIds& ids_;
+  std::atomic<Client*> client_{nullptr};
+  Ref<Object> object_;
+};
+
+}  // namespace vorlan::com
