@@ -8,6 +8,22 @@
 
 namespace vorlan {
 
+template <const SecurityProtocol& Protocol>
+std::span<const BoundMember> PlainProtocol<Protocol>::members() noexcept {
+  static constexpr std::array kMembers{
+      method<&PlainProtocol::Initialize>("Initialize", "signalling, messages, configuration",
+                                         "Takes the test set's signalling object and its message collection"),
+      method<&PlainProtocol::NegotiateProtocolSubtype>(
+          "NegotiateProtocolSubtype", "subtype", "Proposes the protocol, or another subtype of it; True if accepted"),
+  };
+  return kMembers;
+}
+template class PlainProtocol<kDefaultSecurity>;
+template class PlainProtocol<kGenericSecurity>;
+template class PlainProtocol<kDefaultKeyXChange>;
+template class PlainProtocol<kDefaultAuthentication>;
+template class PlainProtocol<kDefaultEncryption>;
+
 namespace {
 
 template <class T>

@@ -1,8 +1,6 @@
 // The protocol objects that negotiate their subtype and nothing else: a class for each row.
 #pragma once
 
-#include <array>
-
 #include "automation/bind.hpp"
 #include "platform/platform.hpp"
 #include "security/security_negotiation.hpp"
@@ -16,15 +14,8 @@ class PlainProtocol final : public BoundObject<PlainProtocol<Protocol>> {
   explicit PlainProtocol(Platform&) noexcept {}
 
   static ClassInfo::Texts texts() noexcept { return {Protocol.name, Protocol.summary, Protocol.clause}; }
-  static std::span<const BoundMember> members() noexcept {
-    static constexpr std::array kMembers{
-        method<&PlainProtocol::Initialize>("Initialize", "signalling, messages, configuration",
-                                           "Takes the test set's signalling object and its message collection"),
-        method<&PlainProtocol::NegotiateProtocolSubtype>(
-            "NegotiateProtocolSubtype", "subtype", "Proposes the protocol, or another subtype of it; True if accepted"),
-    };
-    return kMembers;
-  }
+  /// In classes.cpp, for the protocols below: MinGW's linker takes a table that two files have for two tables.
+  static std::span<const BoundMember> members() noexcept;
 
   /// Two objects; a configuration is asked for other names of the test set's members.
   bool Initialize(const Value& signalling, const Value& messages, const std::optional<Ref<Object>>& configuration) {

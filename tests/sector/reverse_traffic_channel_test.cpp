@@ -9,23 +9,17 @@ namespace {
 
 struct ReverseFixture : SectorFixture {
   ReverseFixture() {
-    std::int16_t next = 1;
-    for (const char* name :
-         {"Transition009k6_019k2", "Transition019k2_038k4", "Transition038k4_076k8", "Transition076k8_153k6",
-          "Transition019k2_009k6", "Transition038k4_019k2", "Transition076k8_038k4"}) {
-      parameters->let("PRint_" + std::string(name), next++);
-    }
-    parameters->let("PRint_Transition153k6_076k8", std::int16_t{255});
-    next = -8;
-    for (const char* name : {"DataOffsetNom", "DataOffset9k6", "DataOffset19k2", "DataOffset38k4", "DataOffset76k8"}) {
-      parameters->let("PRint_" + std::string(name), next++);
-    }
-    parameters->let("PRint_DataOffset153k6", std::int16_t{7});
-    parameters->let("PRint_RPCStep", std::int16_t{1});
+    const auto integers = [this](const char* front, std::int16_t value, std::initializer_list<const char*> names) {
+      for (const char* name : names) parameters->let(front + std::string(name), value++);
+    };
+    integers("PRint_Transition", 1,
+             {"009k6_019k2", "019k2_038k4", "038k4_076k8", "076k8_153k6", "019k2_009k6", "038k4_019k2", "076k8_038k4"});
+    integers("PRint_Transition", 255, {"153k6_076k8"});
+    integers("PRint_DataOffset", -8, {"Nom", "9k6", "19k2", "38k4", "76k8"});
+    integers("PRint_DataOffset", 7, {"153k6"});
+    integers("PRint_RPCStep", 1, {""});
     protocol->call("Initialize", Ref<Object>(parameters), Ref<Object>(signalling), Ref<Object>(messages));
   }
-  void terminal_answers(const std::string& label, const std::string& response) { answers[label] = received(response); }
-
   Ref<SB_PROT_RevTrafficChannel> protocol = make<SB_PROT_RevTrafficChannel>(system.platform);
 };
 
@@ -53,7 +47,7 @@ TEST(ReverseTrafficChannel, ProposesAnAttribute) {
       return "Sig.SendAndWait(" + request + "|3|1|[50 " + transaction + " " + p.request + "]|4|0|2|40|-1|" + response +
              "|1|250)";
     };
-    f.terminal_answers(response, "51 00 02 7F 01 02 " + id + " 01");
+    f.answers[response] = received("51 00 02 7F 01 02 " + id + " 01");
     EXPECT_TRUE(f.protocol->call(operation).to_boolean());
     EXPECT_EQ(f.take_calls(), (Calls{"Sig.CreateMessageObject()", sent("00"), "Messages.Remove(" + request + ")",
                                      "Messages.Item(" + response + ")", "Messages.Remove(" + response + ")"}));
@@ -65,7 +59,7 @@ TEST(ReverseTrafficChannel, ProposesAnAttribute) {
                 "message , sent with Rate Parameters Attribute"}));
     EXPECT_EQ(f.take_calls()[1], sent("01"));
     for (const std::string& rejection : {"51 02 02 7F " + id, std::string("51 03"), std::string("51 04 01")}) {
-      f.terminal_answers(response, rejection);
+      f.answers[response] = received(rejection);
       EXPECT_EQ(raised_by(negotiate),
                 (Raised{1, source,
                         "AT rejected the use of new " + std::string(p.attribute) + "Parameter Attribute sentfrom AN"}));
@@ -99,19 +93,18 @@ TEST(ReverseTrafficChannel, NumbersThatDoNotFitAreNotSent) {
 TEST(ReverseTrafficChannel, NeedsItsObjects) {
   ReverseFixture f;
   const Ref<SB_PROT_RevTrafficChannel> fresh = make<SB_PROT_RevTrafficChannel>(f.system.platform);
-  const Value object(Ref<Object>(f.parameters));
-  for (const Value& wrong : {Value(), Value(Ref<Object>()), Value("text"), Value(1)}) {
+  const Raised wrong{1, "SB_PROT_RevTrafficChannel.Initialize", "Invalid argument type or value not of expected type."};
+  for (const Value& bad : {Value(), Value(Ref<Object>()), Value("text")}) {
     for (std::size_t i = 0; i < 3; ++i) {
-      std::array<Value, 3> arguments{object, object, object};
-      arguments[i] = wrong;
-      EXPECT_EQ(
-          raised_by([&] { fresh->invoke("Initialize", Access::Call, arguments); }),
-          (Raised{1, "SB_PROT_RevTrafficChannel.Initialize", "Invalid argument type or value not of expected type."}));
+      std::array<Value, 3> arguments{Ref<Object>(f.parameters), Ref<Object>(f.signalling), Ref<Object>(f.messages)};
+      arguments[i] = bad;
+      EXPECT_EQ(raised_by([&] { fresh->invoke("Initialize", Access::Call, arguments); }), wrong);
     }
   }
-  for (const char* operation : {"NegotiateRateParametersAttribute", "NegotiatePowerParametersAttribute"}) {
+  for (const Proposed& p : kProposed) {
+    const std::string operation = "Negotiate" + std::string(p.attribute) + "ParametersAttribute";
     EXPECT_EQ(raised_by([&] { fresh->call(operation); }),
-              (Raised{1, "SB_PROT_RevTrafficChannel." + std::string(operation),
+              (Raised{1, "SB_PROT_RevTrafficChannel." + operation,
                       "SB_PROT_RevTrafficChannel object not initialized. Please call <Initialize> method first."}));
   }
 }

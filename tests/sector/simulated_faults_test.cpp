@@ -1,7 +1,5 @@
-// What a script sees of a terminal or a test set that misbehaves in the middle of a session, and that the next session
+// What a script sees of a terminal that misbehaves in the middle of a session, and that the next session
 // of the same objects goes well.
-#include <functional>
-
 #include "sector/simulated_sector.hpp"
 
 namespace vorlan::test {
@@ -16,7 +14,6 @@ const Raised kNotAssigned{1, "18_6_4.Negotiate_FTAP",
                           "FTAPParameterComplete not received in response to FTAPParameterAssignment"};
 const Raised kNotCleared{1, "SB_Sector.NegotiateFTAP",
                          "AT did not clear its current statistics to 0 when requested through FTAPStatsClearRequest"};
-const Raised kNotAcquired{1, "SB_Sector.AcquireReverseTrafficChannel", "Reverse Traffic acquisition failed."};
 
 const std::string kRates = "SB_PROT_RevTrafficChannel.NegotiateRateParametersAttribute";
 const Raised kRatesRejected{1, kRates, "AT rejected the use of new RateParameter Attribute sentfrom AN"};
@@ -105,43 +102,6 @@ TEST(SimulatedFaults, TheTerminalMisbehaves) {
     std::vector<Value> arguments = c.arguments;
     s.terminal->invoke(c.member, Access::Call, arguments);
     expect_one_bad_session(s, c.raised, c.complaint);
-  }
-}
-
-TEST(SimulatedFaults, TheTestSetFails) {
-  struct Case {
-    const char* name;
-    std::function<void(SimulatedSector&, bool)> fail;
-    Raised raised;
-    const char* report;  ///< up to the failure
-  };
-  const std::string operation = "SB_Sector.ConfigureFwdAndAccChannel";
-  const char* const forward = "Forward Channel for Master Sector0 configured with Ior = -60\n";
-  const Case cases[] = {
-      {"forward channel",
-       [](SimulatedSector& s, bool bad) {
-         s.channel("ForwardChannels", "FC_SECTOR 0")->let("FailsConfiguration", bad);
-       },
-       {1, operation, "Forward Channel could not be configured."},
-       ""},
-      {"access channel",
-       [](SimulatedSector& s, bool bad) { s.parameters->let("PRint_FrameOffset", i16(bad ? 16 : 0)); },
-       {1, operation, "Access Channel could not be configured."},
-       forward},
-      {"reverse channel", [](SimulatedSector& s, bool bad) { s.terminal->let("AcquiresReverseChannel", !bad); },
-       kNotAcquired, "Forward Channel for Master Sector0 configured with Ior = -60\nAccess Channel configured.\n"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
-    SimulatedSector s;
-    c.fail(s, true);
-    EXPECT_EQ(raised_by([&] { s.run(); }), c.raised);
-    EXPECT_EQ(s.report(), c.report);
-    EXPECT_EQ(s.channel("ForwardChannels", "FC_SECTOR 0")->get("Configured").to_boolean(), c.report[0] != '\0')
-        << "what was configured stays";
-    c.fail(s, false);
-    s.part("TestReport")->call("Clear");
-    expect_one_bad_session(s, kContent);
   }
 }
 

@@ -9,11 +9,11 @@
 namespace vorlan::test {
 
 struct SimulatedSector : Script {
-  explicit SimulatedSector(const std::string& name = "SECTOR 0")
+  SimulatedSector()
       : simulated(static_cast<simulator::TestSet*>(test_set.get())),
-        parameters(examples::load_configuration(fake.platform, VORLAN_EXAMPLES "/sector.ini", name)),
+        parameters(examples::load_configuration(fake.platform, VORLAN_EXAMPLES "/sector.ini", "SECTOR 0")),
         sector(examples::connect(fake.platform, simulated, parameters)) {
-    sector->let("PRstr_SectorName", name);
+    sector->let("PRstr_SectorName", "SECTOR 0");
   }
 
   /// A whole session without security.
@@ -41,9 +41,6 @@ struct SimulatedSector : Script {
     sector->call("SendFTAPClearStats");
     sector->call("DestoyFadingObjects");
     sector->call("CleanUp");
-  }
-  Ref<Object> channel(std::string_view collection, const std::string& key) {
-    return part(collection)->call("Item", key).to_object();
   }
   Value of_trace(std::string_view what, int index) { return trace->get(what, i16(index)); }
   [[nodiscard]] int messages() const { return trace->get("Count").to_integer(); }

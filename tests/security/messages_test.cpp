@@ -42,33 +42,6 @@ TEST(KeyExchangeMessages, RaiseTheirTexts) {
   }
 }
 
-TEST(KeyExchangeMessages, AreBuilt) {
-  const auto built = [](const Ref<Object>& message) {
-    const auto object = make<simulator::MessageObject>();
-    message->call("CreateMessage", Ref<Object>(object));
-    return object->hex();
-  };
-  const Ref<Object> request = create("SB_Sec_MsgKeyRequest");
-  request->call("Initialize", Ref<Object>(), "");
-  EXPECT_EQ(built(request), "00 00 00");
-  request->let("PRstr_TransactionId", bits_of("2A"));
-  request->let("PRstr_Timeout", bits_of("07"));
-  for (const std::size_t octets : {96U, 128U}) {
-    std::string key;
-    for (std::size_t i = 0; i < octets; ++i) key += " A5";
-    request->let("PRstr_ANPubKey", bits_of(key));
-    EXPECT_EQ(built(request), "00 2A 07" + key);
-  }
-  const Ref<Object> complete = create("SB_Sec_MsgANKeyComplete");
-  complete->call("Initialize", Ref<Object>(), "");
-  std::string zeros;
-  for (int i = 0; i < 25; ++i) zeros += " 00";
-  EXPECT_EQ(built(complete), "02" + zeros);
-  complete->let("PRstr_Nonce", bits_of("12 34"));
-  complete->let("PRstr_TimeStampShort", bits_of("56 78"));
-  EXPECT_EQ(built(complete).substr(0, 17), "02 00 12 34 56 78");
-}
-
 TEST(KeyExchangeMessages, AreReadByPosition) {
   const Ref<Object> response = create("SB_Sec_MsgKeyResponse");
   const auto parts = [&](const char* hex) {

@@ -12,59 +12,36 @@ struct NegotiationCase {
   std::string_view number;  ///< subtype or key length, at the end of every text
   const char* protocol;     ///< on which it is proposed
   const char* record;
-  const char* refused;  ///< a record that names another value
-  std::string_view not_initialized;
-  std::string_view proposal;
-  std::string_view mismatch;
-  std::string_view rejection;
-  std::string_view uninitialized_class = {};  ///< in the source of that text; none: the name
+  const char* refused;                        ///< a record that names another value
+  std::string_view proposed, sent, rejected;  ///< the ends of the texts
+  std::string_view uninitialized_class = {};  ///< in that text and, of a subtype, its source; none: the name
 };
 constexpr std::string_view kSubtype = "NegotiateProtocolSubtype";
 constexpr NegotiationCase kCases[] = {
     {"SB_PROT_DefaultSecurity", kSubtype, "0", "18", "04 00 08 00 00", "04 00 08 00 01",
-     "SB_PROT_DefaultSecurity object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Session configuration Protocol proposing use of Default Security protocol, subtype ",
-     "is not same as that of ConfigurationRequest message , sent to propose Default Security protocol, subtype ",
-     "AT rejected the use of Default Security protocol , subtype "},
+     "Default Security protocol, subtype ", "Default Security protocol, subtype ",
+     "Default Security protocol , subtype "},
     {"SB_PROT_GenericSecurity", kSubtype, "1", "18", "04 00 08 00 01", "04 00 08 00 00",
-     "SB_PROT_GenericSecurity object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Session configuration Protocol proposing use of Generic Security protocol, subtype ",
-     "is not same as that of ConfigurationRequest message , sent to propose use of Generic Security protocol, subtype ",
-     "AT rejected the use of Generic Security protocol , subtype "},
+     "Generic Security protocol, subtype ", "use of Generic Security protocol, subtype ",
+     "Generic Security protocol , subtype "},
     {"SB_PROT_DefaultKeyXChange", kSubtype, "0", "18", "04 00 05 00 00", "04 00 05 01 00",
-     "SB_PROT_DefaultKeyXChange object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Session configuration Protocol proposing use of Default KeyXChange protocol, subtype ",
-     "is not same as that of ConfigurationRequest message , sent to propose Default KeyXChange protocol, subtype ",
-     "AT rejected the use of Default KeyXChange protocol , subtype "},
-    {"SB_PROT_DHKeyXChange", kSubtype, "1", "18", "04 00 05 00 01", "04 00 06 00 01",
-     "SB_PROT_DHXChange object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Session configuration Protocol proposing use of DHKeyXChange protocol, subtype ",
-     "is not same as that of ConfigurationRequest message , sent to propose DHKeyXChange protocol, subtype ",
-     "AT rejected the use of DHKeyXChange protocol , subtype ", "SB_PROT_DHXChange"},
+     "Default KeyXChange protocol, subtype ", "Default KeyXChange protocol, subtype ",
+     "Default KeyXChange protocol , subtype "},
+    {"SB_PROT_DHKeyXChange", kSubtype, "1", "18", "04 00 05 00 01", "04 00 06 00 01", "DHKeyXChange protocol, subtype ",
+     "DHKeyXChange protocol, subtype ", "DHKeyXChange protocol , subtype ", "SB_PROT_DHXChange"},
     {"SB_PROT_DefaultAuthentication", kSubtype, "0", "18", "04 00 06 00 00", "04 00 06 00 01",
-     "SB_PROT_DefaultAuthentication object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Session configuration Protocol proposing use of Default Authentication protocol, "
-     "subtype ",
-     "is not same as that of ConfigurationRequest message , sent to propose Default Authentication Protocol, subtype ",
-     "AT rejected the use of Default Authentication protocol , Subtype "},
+     "Default Authentication protocol, subtype ", "Default Authentication Protocol, subtype ",
+     "Default Authentication protocol , Subtype "},
     {"SB_PROT_SHA1Authentication", kSubtype, "1", "18", "04 00 06 00 01", "03 06 00 01",
-     "SB_PROT_SHA1Authentication object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Session configuration Protocol proposing use of SHA-1 Authentication protocol, subtype ",
-     "is not same as that of ConfigurationRequest message , sent to propose SHA-1 Authentication Protocol, subtype ",
-     "AT rejected the use of SHA-1 Authentication Protocol , Subtype "},
+     "SHA-1 Authentication protocol, subtype ", "SHA-1 Authentication Protocol, subtype ",
+     "SHA-1 Authentication Protocol , Subtype "},
     {"SB_PROT_DefaultEncryption", kSubtype, "0", "18", "04 00 07 00 00", "04 00 07 00",
-     "SB_PROT_DefaultEncryption object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Session configuration Protocol proposing use of Default Encryption protocol, subtype ",
-     "is not same as that of ConfigurationRequest message , sent to propose Default Encryption protocol, subtype ",
-     "AT rejected the use of Default Encryption protocol , subtype "},
-    {"SB_PROT_DHKeyXChange", "NegotiateSKeyLength", "768", "5", "02 00 00", "02 00 01",
-     "SB_PROT_DHXChange object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Key Exchange Protocol proposing SKeyLength ",
-     "is not same as that of ConfigurationRequest message, proposing SKeyLength ", "AT rejected SKey Length "},
-    {"SB_PROT_SHA1Authentication", "NegotiateAuthKeyLength", "160", "6", "03 00 00 A0", "03 00 00 A1",
-     "SB_PROT_SHA1Authentication object not initialized. Please call <Initialize> method first.",
-     "ConfigurationRequest on Key Exchange Protocol proposing AuthKeyLength ",
-     "is not same as that of ConfigurationRequest message, proposing AuthKeyLength ", "AT rejected Auth Key Length "},
+     "Default Encryption protocol, subtype ", "Default Encryption protocol, subtype ",
+     "Default Encryption protocol , subtype "},
+    {"SB_PROT_DHKeyXChange", "NegotiateSKeyLength", "768", "5", "02 00 00", "02 00 01", "SKeyLength ", "SKeyLength ",
+     "SKey Length ", "SB_PROT_DHXChange"},
+    {"SB_PROT_SHA1Authentication", "NegotiateAuthKeyLength", "160", "6", "03 00 00 A0", "03 00 00 A1", "AuthKeyLength ",
+     "AuthKeyLength ", "Auth Key Length "},
 };
 
 /// The arguments of a class's Initialize, as they should be.
@@ -110,35 +87,37 @@ TEST(SecurityNegotiation, ProposesOneValue) {
 TEST(SecurityNegotiation, FailsWithItsOwnTexts) {
   for_every_negotiation([](SecurityFixture& f, const NegotiationCase& c, const Ref<Object>& object) {
     const std::string source = std::string(c.name).append(".").append(c.operation);
-    const auto expect = [&](std::string_view front, std::string_view text) {
+    const bool subtype = c.operation == kSubtype;
+    const auto expect = [&](const std::string& front, std::string_view text) {
       f.take_calls();
       EXPECT_EQ(raised_by([&] { object->call(c.operation); }),
                 (Raised{1, source, std::string(front).append(text).append(c.number)}));
       return f.take_calls().back();
     };
+    const std::string other_transaction =
+        "TransactionID field of ConfigurationResponse message is not same as that of ConfigurationRequest message" +
+        std::string(subtype ? " , sent to propose " : ", proposing ");
+    const std::string not_received =
+        "ConfigurationResponse not received from the AT for ConfigurationRequest on " +
+        std::string(subtype ? "Session configuration Protocol proposing use of " : "Key Exchange Protocol proposing ");
     std::string& reply = f.replies["ConfigResponseMessage"];
     for (const char* other : {"51 FF", "51", ""}) {
       reply = other;
-      EXPECT_EQ(expect("TransactionID field of ConfigurationResponse message ", c.mismatch),
-                "Messages.Remove(ConfigResponseMessage)");
+      EXPECT_EQ(expect(other_transaction, c.sent), "Messages.Remove(ConfigResponseMessage)");
     }
     for (const std::string& refusal : {std::string("51 ##"), std::string("51 ## ") + c.refused}) {
       reply = refusal;
-      EXPECT_EQ(expect("", c.rejection), "Messages.Remove(ConfigResponseMessage)");
+      EXPECT_EQ(expect(subtype ? "AT rejected the use of " : "AT rejected ", c.rejected),
+                "Messages.Remove(ConfigResponseMessage)");
     }
     f.silent_to = "ConfigRequestMessage";
-    EXPECT_NE(expect("ConfigurationResponse not received from the AT for ", c.proposal),
-              "Messages.Remove(ConfigResponseMessage)");
+    EXPECT_NE(expect(not_received, c.proposed), "Messages.Remove(ConfigResponseMessage)");
     EXPECT_TRUE(f.system.settings->values.empty()) << "only what is accepted is remembered";
-  });
-}
-
-TEST(SecurityNegotiation, NeedsInitialize) {
-  for (const NegotiationCase& c : kCases) {
-    const std::string_view owner = c.uninitialized_class.empty() ? c.name : c.uninitialized_class;
+    const std::string owner(c.uninitialized_class.empty() ? c.name : c.uninitialized_class);
     EXPECT_EQ(raised_by([&] { create(c.name)->call(c.operation); }),
-              (Raised{1, std::string(owner).append(".").append(c.operation), std::string(c.not_initialized)}));
-  }
+              (Raised{1, (subtype ? owner : std::string(c.name)) + "." + std::string(c.operation),
+                      owner + " object not initialized. Please call <Initialize> method first."}));
+  });
 }
 
 TEST(SecurityNegotiation, InitializeWantsObjectsAndLengths) {
@@ -179,6 +158,8 @@ TEST(SecurityNegotiation, TakesAnotherNumberAndRemembersIt) {
   EXPECT_NE(f.take_calls()[1].find("[50 00 02 00 01]"), std::string::npos);
   EXPECT_EQ(f.setting("KeyExchangeFields", "MRUSKeyLength"), "1024");
   EXPECT_EQ(error_number([&] { key_exchange->call("NegotiateSKeyLength", 96); }), 5);
+  raised_by([&] { key_exchange->call("ExecuteDHKeyXChange"); });
+  EXPECT_EQ(f.take_calls()[0], "Security.GetANPublicKey(1024)");
   key_exchange->call("ClearSessionStateInfo");
   EXPECT_EQ(f.setting("KeyExchangeFields", "MRUSKeyLength"), "0");
 

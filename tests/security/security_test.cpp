@@ -27,89 +27,63 @@ struct ControllerFixture : SecurityFixture {
   Ref<SB_Security> security = make<SB_Security>(system.platform);
 };
 
-struct ConfigureCase {
+struct Family {
   const char* operation;
   const char* selector;
-  int type;
-  const char* line;
-  const char* property;  ///< null: no object
   const char* section;
   const char* key;
 };
-constexpr ConfigureCase kConfigure[] = {
-    {"ConfigureSecurity", "PRint_SecurityType", 0, "Default Security Protocol Initialized.",
-     "PRobj_PROT_DefaultSecurity", "SecurityFields", "MRUSecurity"},
-    {"ConfigureSecurity", "PRint_SecurityType", 1, "Generic Security Protocol Initialized.",
-     "PRobj_PROT_GenericSecurity", "SecurityFields", "MRUSecurity"},
-    {"ConfigureSecurity", "PRint_SecurityType", 2,
-     "Warning: Security Protocol not initialized. Invalid SECURITY_TYPE selected.", nullptr, "SecurityFields",
-     "MRUSecurity"},
-    {"ConfigureKeyXChange", "PRint_KeyXChangeType", 0, "Default Key Exchange Protocol Initialized.",
-     "PRobj_PROT_DefaultKeyXChange", "KeyExchangeFields", "MRUKeyExchange"},
-    {"ConfigureKeyXChange", "PRint_KeyXChangeType", 1,
-     "DH-Key Exchange Protocol initialized with Session Key Length 768", "PRobj_PROT_DHKeyXChange", "KeyExchangeFields",
-     "MRUKeyExchange"},
-    {"ConfigureKeyXChange", "PRint_KeyXChangeType", -1,
-     "Warning: Key Exchange Protocol not initialized. Invalid KEY_XCHANGE_TYPE selected.", nullptr, "KeyExchangeFields",
-     "MRUKeyExchange"},
-    {"ConfigureAuthentication", "PRint_AuthenticationType", 0, "Default Authentication Exchange Protocol Initialized.",
-     "PRobj_PROT_DefaultAuthentication", "AuthFields", "MRUAuthType"},
-    {"ConfigureAuthentication", "PRint_AuthenticationType", 1,
-     "SHA-1 Authentication Protocol initialized with Authentication Key Length 160", "PRobj_PROT_SHA1Authentication",
-     "AuthFields", "MRUAuthType"},
-    {"ConfigureAuthentication", "PRint_AuthenticationType", 9,
-     "Warning: Authentication Protocol not initialized. Invalid AUTH_TYPE selected.", nullptr, "AuthFields",
-     "MRUAuthType"},
-    {"ConfigureEncryption", "PRint_EncryptionType", 0, "Default Encryption Protocol Initialized.",
-     "PRobj_PROT_DefaultEncryption", "EncryptionFields", "MRUEncryption"},
-    {"ConfigureEncryption", "PRint_EncryptionType", 1,
-     "Warning: Encryption Protocol not initialized. Invalid ENCRYPTION_TYPE selected.", nullptr, "EncryptionFields",
-     "MRUEncryption"},
+constexpr Family kSecurity{"ConfigureSecurity", "PRint_SecurityType", "SecurityFields", "MRUSecurity"};
+constexpr Family kKeys{"ConfigureKeyXChange", "PRint_KeyXChangeType", "KeyExchangeFields", "MRUKeyExchange"};
+constexpr Family kAuthentication{"ConfigureAuthentication", "PRint_AuthenticationType", "AuthFields", "MRUAuthType"};
+constexpr Family kEncryption{"ConfigureEncryption", "PRint_EncryptionType", "EncryptionFields", "MRUEncryption"};
+
+struct ConfigureCase {
+  Family family;
+  int type;
+  const char* line;
+  const char* property = "";  ///< none: no object
 };
-constexpr const char* kProperties[] = {"PRobj_PROT_DefaultSecurity",       "PRobj_PROT_GenericSecurity",
-                                       "PRobj_PROT_DefaultKeyXChange",     "PRobj_PROT_DHKeyXChange",
-                                       "PRobj_PROT_DefaultAuthentication", "PRobj_PROT_SHA1Authentication",
-                                       "PRobj_PROT_DefaultEncryption"};
+constexpr ConfigureCase kConfigure[] = {
+    {kSecurity, 0, "Default Security Protocol Initialized.", "PRobj_PROT_DefaultSecurity"},
+    {kSecurity, 1, "Generic Security Protocol Initialized.", "PRobj_PROT_GenericSecurity"},
+    {kSecurity, 2, "Warning: Security Protocol not initialized. Invalid SECURITY_TYPE selected."},
+    {kKeys, 0, "Default Key Exchange Protocol Initialized.", "PRobj_PROT_DefaultKeyXChange"},
+    {kKeys, 1, "DH-Key Exchange Protocol initialized with Session Key Length 768", "PRobj_PROT_DHKeyXChange"},
+    {kKeys, -1, "Warning: Key Exchange Protocol not initialized. Invalid KEY_XCHANGE_TYPE selected."},
+    {kAuthentication, 0, "Default Authentication Exchange Protocol Initialized.", "PRobj_PROT_DefaultAuthentication"},
+    {kAuthentication, 1, "SHA-1 Authentication Protocol initialized with Authentication Key Length 160",
+     "PRobj_PROT_SHA1Authentication"},
+    {kAuthentication, 9, "Warning: Authentication Protocol not initialized. Invalid AUTH_TYPE selected."},
+    {kEncryption, 0, "Default Encryption Protocol Initialized.", "PRobj_PROT_DefaultEncryption"},
+    {kEncryption, 1, "Warning: Encryption Protocol not initialized. Invalid ENCRYPTION_TYPE selected."},
+};
 
 TEST(Security, ConfiguresOneProtocolOfAFamily) {
   for (const ConfigureCase& c : kConfigure) {
-    SCOPED_TRACE(std::string(c.operation) + " " + std::to_string(c.type));
+    const auto& [operation, selector, section, key] = c.family;
+    SCOPED_TRACE(std::string(operation) + " " + std::to_string(c.type));
     ControllerFixture f;
-    f.security->call(c.operation);  // type 0 goes again
+    f.security->call(operation);  // type 0 goes again
     f.take_calls();
-    f.parameters->let(c.selector, integer(c.type));
-    f.security->call(c.operation);
+    f.parameters->let(selector, integer(c.type));
+    f.security->call(operation);
     EXPECT_EQ(f.take_calls(), Calls{"Report.AddText(" + std::string(c.line) + ")"});
-    EXPECT_EQ(f.setting(c.section, c.key), std::to_string(c.type));
+    EXPECT_EQ(f.setting(section, key), std::to_string(c.type));
     EXPECT_EQ(f.setting("SectorFields", "MRUSectorID").size(), 128U);
     EXPECT_EQ(f.setting("SectorFields", "MRUSectorID").substr(96), "11111111000000000000000000000101");
     EXPECT_EQ(f.setting("SectorFields", "MRUSubnetMask"), "01101000");
     EXPECT_EQ(f.setting("SectorFields", "MRUSectorSignature"), "0001001000110100");
-    EXPECT_EQ(f.setting("AuthFields", "MRUAuthKeyLength"),
-              std::string_view(c.operation) == "ConfigureAuthentication" ? "160" : "none");
-    for (const char* property : kProperties) {
-      const Raised raised = raised_by([&] { EXPECT_TRUE(f.security->get(property).to_object()); });
-      if (c.property != nullptr && std::string_view(property) == c.property) {
-        EXPECT_EQ(raised, Raised{});
-        EXPECT_TRUE(f.security->get(property).to_object()->call("NegotiateProtocolSubtype").to_boolean());
-      } else {
-        EXPECT_EQ(raised.source, "SB_Security." + std::string(property));
-      }
+    EXPECT_EQ(f.setting("AuthFields", "MRUAuthKeyLength"), section == kAuthentication.section ? "160" : "none");
+    for (const ConfigureCase& other : kConfigure) {
+      const std::string property = other.property;
+      if (property.empty()) continue;
+      const Raised unavailable{1, "SB_Security." + property,
+                               "Object not available yet. Please call SB_Security." +
+                                   std::string(other.family.operation) + " prior to calling this property"};
+      EXPECT_EQ(raised_by([&] { EXPECT_TRUE(f.security->get(property).to_object()); }),
+                property == c.property ? Raised{} : unavailable);
     }
-  }
-}
-
-TEST(Security, ObjectsAreThereOnceConfigured) {
-  const FakePlatform system;
-  const char* const operations[] = {"Security",       "Security",       "KeyXChange", "KeyXChange",
-                                    "Authentication", "Authentication", "Encryption"};
-  for (std::size_t i = 0; i < std::size(kProperties); ++i) {
-    Platform platform = system.platform;
-    const auto security = make<SB_Security>(platform);
-    EXPECT_EQ(raised_by([&] { security->get(kProperties[i]); }),
-              (Raised{1, "SB_Security." + std::string(kProperties[i]),
-                      "Object not available yet. Please call SB_Security.Configure" + std::string(operations[i]) +
-                          " prior to calling this property"}));
   }
 }
 
@@ -132,25 +106,21 @@ TEST(Security, ChecksKeyLengthsBeforeAnythingChanges) {
 }
 
 TEST(Security, NeedsASector) {
-  const Raised wrong{1, "SB_Security.Initialise", "Invalid argument type or value not of expected type."};
   ControllerFixture f;
+  const Ref<Object> fresh = make<SB_Security>(f.system.platform);
   for (const Value& bad : {Value(), Value("sector"), Value(Ref<Object>())}) {
-    EXPECT_EQ(raised_by([&] { make<SB_Security>(f.system.platform)->call("Initialise", bad); }), wrong);
+    EXPECT_EQ(raised_by([&] { fresh->call("Initialise", bad); }),
+              (Raised{1, "SB_Security.Initialise", "Invalid argument type or value not of expected type."}));
   }
   for (const char* operation :
        {"ConfigureSecurity", "ConfigureKeyXChange", "ConfigureAuthentication", "ConfigureEncryption", "Configure",
         "SecurityNegotiations", "RunDiffie_HellManKeyXChange"}) {
-    EXPECT_EQ(raised_by([&] { make<SB_Security>(f.system.platform)->call(operation); }),
+    EXPECT_EQ(raised_by([&] { fresh->call(operation); }),
               (Raised{1, "SB_Security." + std::string(operation),
                       "SB_Security Object not not initialized. Please call <Initialize> method first."}));
   }
   f.sector->set("PRobj_TestSet", Ref<Object>());
   EXPECT_EQ(error_number([&] { f.security->call("Initialise", Ref<Object>(f.sector)); }), 91);
-  f.sector->set("PRobj_ParentTestSet", Ref<Object>(f.test_set));
-  f.sector->set("PRobj_TestReport", Ref<Object>());
-  f.security->call("Initialise", Ref<Object>(f.sector));
-  f.security->call("ConfigureSecurity");
-  EXPECT_EQ(f.debug_lines().back(), "Default Security Protocol Initialized.") << "where there is no report";
 }
 
 TEST(Security, RemembersBetweenObjects) {
@@ -257,20 +227,12 @@ TEST(Security, RetiredEntryPointsFailUnderTheirOwnNames) {
 TEST(Security, CallsTheTestSetByTheNamesOfTheLaboratory) {
   ControllerFixture f;
   const TemporaryFolder folder;
-  const auto rename = [&](const std::string& line) {
-    f.parameters->let("PRstr_FileName", folder.write("lab.ini", "[TestSetMembers]\n" + line + "\n").string());
-  };
+  const auto file = folder.write("lab.ini", "[TestSetMembers]\nSecurityObject = Cipher\n");
+  f.parameters->let("PRstr_FileName", file.string());
   // The recording test set knows no other name, and says which it was called by.
-  rename("SecurityObject = Cipher");
-  Raised raised = raised_by([&] { f.security->call("Initialise", Ref<Object>(f.sector)); });
+  const Raised raised = raised_by([&] { f.security->call("Initialise", Ref<Object>(f.sector)); });
   EXPECT_EQ(raised.number, 438);
   EXPECT_NE(raised.description.find("Cipher"), std::string::npos);
-  rename("SendAndWait = Ask");
-  const auto protocol = make<SB_PROT_DHKeyXChange>(f.system.platform);
-  protocol->call("Initialize", f.signalling_value(), Ref<Object>(f.security_object), integer(768), f.messages_value(),
-                 Ref<Object>(f.parameters));
-  raised = raised_by([&] { protocol->call("NegotiateSKeyLength"); });
-  EXPECT_NE(raised.description.find("Ask"), std::string::npos) << raised.description;
 }
 
 }  // namespace

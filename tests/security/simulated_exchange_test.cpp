@@ -61,13 +61,6 @@ TEST(SimulatedKeyExchange, BothSidesHoldTheSameKey) {
   }
 }
 
-TEST(SimulatedKeyExchange, TheRetiredWayWorksToo) {
-  SimulatedSession s(1024);
-  EXPECT_TRUE(s.security->call("SecurityNegotiations").to_boolean());
-  EXPECT_TRUE(s.part("Security")->get("KeysAgree").to_boolean());
-  EXPECT_TRUE(s.security->call("RunDiffie_HellManKeyXChange").to_boolean());
-}
-
 TEST(SimulatedKeyExchange, ATerminalThatMisbehavesIsCaught) {
   SimulatedSession s(768);
   s.negotiate();
@@ -81,12 +74,6 @@ TEST(SimulatedKeyExchange, ATerminalThatMisbehavesIsCaught) {
   s.terminal->call("Behave");
   EXPECT_EQ(s.failure(), "");
 
-  s.terminal->call("StaySilent", i16(5), i16(1));
-  EXPECT_EQ(s.failure(), "KeyResponse message could not be received.");
-  s.terminal->call("Behave");
-  s.terminal->call("WrongTransactionId", i16(5), i16(3));
-  EXPECT_EQ(s.failure(), "TransactionID field of ATKeyComplete message is not same as that of ANKeyComplete message.");
-  s.terminal->call("Behave");
   // 20 s: longer than the 10 s that are waited at least, and the terminal has asked for no more.
   s.terminal->call("AnswerLate", 20000, i16(5), i16(3));
   EXPECT_EQ(s.failure(),
@@ -95,10 +82,6 @@ TEST(SimulatedKeyExchange, ATerminalThatMisbehavesIsCaught) {
   s.terminal->let("KeyTimeOut", i16(21));
   EXPECT_EQ(s.failure(), "");
   EXPECT_EQ(s.key_exchange->get("PRlng_TKEPSigCompAT").to_long(), 20);
-  s.terminal->call("Behave");
-  s.terminal->call("Refuse", i16(18), i16(5));
-  EXPECT_EQ(raised_by([&] { s.key_exchange->call("NegotiateProtocolSubtype"); }).description,
-            "AT rejected the use of DHKeyXChange protocol , subtype 1");
 }
 
 }  // namespace

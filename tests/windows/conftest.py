@@ -13,7 +13,7 @@ import pytest
 
 HERE = Path(__file__).resolve().parent
 BUILD = Path(os.environ["VORLAN_WINDOWS_BUILD"]).resolve()
-LIMIT = 60  # seconds for one program: far more than any takes, so that a fault ends the tests all the same
+LIMIT = 40  # seconds for one program: far more than any takes, so that a fault ends the tests all the same
 
 
 class Machine:

@@ -1,9 +1,10 @@
-' A thousand objects, used and released; one more keeps the server while its memory is looked at.
-Dim kept, i, made
+' A thousand objects used and released, four times; one more keeps the server while its memory is looked at, which the
+' files seen1 to seen4 tell of.
+Dim kept, files, batch, i, made
+Set files = CreateObject("Scripting.FileSystemObject")
 Set kept = CreateObject("Vorlan.SB_GeneralFunctions")
 kept.LongToBin 1, 8
-Do Until WScript.StdIn.AtEndOfStream
-  If WScript.StdIn.ReadLine = "" Then Exit Do
+For batch = 1 To 4
   For i = 1 To 1000
     Set made = CreateObject("Vorlan.SB_Ses_MsgSessionClose")
     made.Initialize Nothing
@@ -11,5 +12,7 @@ Do Until WScript.StdIn.AtEndOfStream
   Next
   Set made = Nothing
   WScript.Echo "done"
-Loop
+  Do Until files.FileExists("seen" & batch)
+  Loop
+Next
 checks = 1

@@ -66,6 +66,11 @@ HRESULT ServedObject::QueryInterface(REFIID iid, void** out) noexcept {
     return E_NOINTERFACE;
   }
   AddRef();
+  try {
+    if (client_ == nullptr) asked_by_ = &host_.clients().of_this_call();
+  } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch)
+    // Not known then; the first call will tell.
+  }
   return S_OK;
 }
 

@@ -22,7 +22,11 @@ class ServedObject final : public IDispatch, public ISupportErrorInfo, public IP
 
   /// The object itself; made for this client if it is not there yet. The client's lock is held.
   const Ref<Object>& object(Client& client);
-  [[nodiscard]] bool is_of(const Client& client) const noexcept { return client_ == &client; }
+  [[nodiscard]] bool is_of(const Client& client) const noexcept {
+    const Client* owner = client_;
+    if (owner == nullptr) owner = asked_by_;
+    return owner == &client;
+  }
   bool add_reference_if_alive() noexcept;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) noexcept override;
@@ -50,6 +54,7 @@ class ServedObject final : public IDispatch, public ISupportErrorInfo, public IP
   const ClassInfo& info_;
   const MemberIds& ids_;
   std::atomic<Client*> client_{nullptr};
+  std::atomic<const Client*> asked_by_{nullptr};  ///< who holds it, as far as is known before the first call
   Ref<Object> object_;
 };
 

@@ -26,6 +26,13 @@ struct Front::Session {
   Source worker_end;
   Descriptor holder;  ///< of an open session: the process that it lasts as long as
   Source holder_end;
+  bool lost = false;  ///< the worker has left the bus, and its end is about to be noticed
+};
+
+/// A call that was passed on to a worker.
+struct Front::PassedOn {
+  Front& front;
+  Message call;
 };
 
 namespace {
@@ -33,24 +40,6 @@ namespace {
 constexpr const char* kOwnerOnly = "Only the user who owns the bus may use this server.";
 constexpr const char* kClientsLeaving =
     "type='signal',sender='org.freedesktop.DBus',interface='org.freedesktop.DBus',member='NameOwnerChanged',arg2=''";
-
-/// A worker's answer to the call that was passed on to it goes back to the client as it is.
-int return_answer(sd_bus_message* answer, void* call, sd_bus_error*) noexcept {
-  const Message original(static_cast<sd_bus_message*>(call));
-  try {
-    const sd_bus_error* error = sd_bus_message_get_error(answer);
-    if (error == nullptr) {
-      const Message reply = new_return(original.get());
-      check(sd_bus_message_copy(reply.get(), answer, 1), "answer");
-      send_reply(original.get(), reply.get());
-      return 1;
-    }
-    sd_bus_reply_method_error(original.get(), error);
-  } catch (const std::system_error& error) {
-    send_refusal(original.get(), SD_BUS_ERROR_FAILED, error.what());
-  }
-  return 1;
-}
 
 Loop make_loop() {
   sd_event* loop = nullptr;
@@ -133,7 +122,9 @@ void Front::create(sd_bus_message* call) {
   require_signature(call, "s");
   const std::string client = sd_bus_message_get_sender(call);
   const auto known = sessions_.find(client);
-  pass_on(known != sessions_.end() ? *known->second : start(client), hold(call));
+  Session& session = known != sessions_.end() ? *known->second : start(client);
+  if (session.lost) return session.waiting.push_back(hold(call));
+  pass_on(session, hold(call));
 }
 
 void Front::open_session(sd_bus_message* call) {
@@ -220,15 +211,52 @@ void Front::pass_on(Session& session, Message call) {
   }
   const Message create = new_call(bus_.get(), session.worker.c_str(), kRootPath, kWorkerInterface, "Create");
   check(sd_bus_message_append(create.get(), "s", read_text(call.get()).c_str()), "class");
-  check(sd_bus_call_async(bus_.get(), nullptr, create.get(), &return_answer, call.get(), UINT64_MAX), "worker");
-  static_cast<void>(call.release());  // return_answer has it now
+  auto passed_on = std::make_unique<PassedOn>(PassedOn{*this, std::move(call)});
+  check(sd_bus_call_async(
+            bus_.get(), nullptr, create.get(),
+            [](sd_bus_message* answer, void* passed, sd_bus_error*) {
+              const std::unique_ptr<PassedOn> held(static_cast<PassedOn*>(passed));
+              held->front.return_answer(answer, std::move(held->call));
+              return 1;
+            },
+            passed_on.get(), UINT64_MAX),
+        "worker");
+  static_cast<void>(passed_on.release());  // return_answer has it now
+}
+
+void Front::return_answer(sd_bus_message* answer, Message call) noexcept {
+  try {
+    const sd_bus_error* error = sd_bus_message_get_error(answer);
+    if (error == nullptr) {
+      const Message reply = new_return(call.get());
+      check(sd_bus_message_copy(reply.get(), answer, 1), "answer");
+      return send_reply(call.get(), reply.get());
+    }
+    if (sd_bus_error_has_name(error, SD_BUS_ERROR_SERVICE_UNKNOWN) == 0) {
+      sd_bus_reply_method_error(call.get(), error);
+      return;
+    }
+    // The worker has crashed since its last answer: the client gets a new one, as soon as the old one's end is noticed.
+    const auto known = sessions_.find(std::string_view(sd_bus_message_get_sender(call.get())));
+    if (known == sessions_.end()) return create(call.get());
+    known->second->lost = true;
+    known->second->waiting.push_back(std::move(call));
+  } catch (const std::exception& error) {
+    if (call) send_refusal(call.get(), SD_BUS_ERROR_FAILED, error.what());
+  }
 }
 
 void Front::on_worker_end(Session& session) {
-  for (const Message& call : session.waiting) {
-    send_refusal(call.get(), SD_BUS_ERROR_FAILED, "The worker ended before it could be called.");
-  }
+  const bool starts_again = session.lost;
+  const std::vector<Message> waiting = std::exchange(session.waiting, {});
   sessions_.erase(sessions_.find(session.client));
+  for (const Message& call : waiting) {
+    if (starts_again) {
+      on_call(call.get());
+    } else {
+      send_refusal(call.get(), SD_BUS_ERROR_FAILED, "The worker ended before it could be called.");
+    }
+  }
 }
 
 void Front::on_client_left(const char* client) noexcept {

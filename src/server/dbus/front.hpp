@@ -32,6 +32,7 @@ class Front {
 
  private:
   struct Session;
+  struct PassedOn;
 
   int on_call(sd_bus_message* call) noexcept;
   void dispatch(sd_bus_message* call);
@@ -43,6 +44,8 @@ class Front {
 
   Session& start(const std::string& client);
   void pass_on(Session& session, Message call);
+  /// A worker's answer to the call that was passed on to it goes back to the client as it is.
+  void return_answer(sd_bus_message* answer, Message call) noexcept;
   void on_ready(Session& session);
   void on_worker_end(Session& session);
   void on_client_left(const char* client) noexcept;
