@@ -209,6 +209,7 @@ void Front::pass_on(Session& session, Message call) {
     check(sd_bus_message_append(reply.get(), "s", session.client.c_str()), "answer");
     return send_reply(call.get(), reply.get());
   }
+  check(sd_bus_message_rewind(call.get(), 1), "call");  // it may have been passed on to a worker before
   const Message create = new_call(bus_.get(), session.worker.c_str(), kRootPath, kWorkerInterface, "Create");
   check(sd_bus_message_append(create.get(), "s", read_text(call.get()).c_str()), "class");
   auto passed_on = std::make_unique<PassedOn>(PassedOn{*this, std::move(call)});
