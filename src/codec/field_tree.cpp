@@ -4,12 +4,11 @@
 #include <vector>
 
 #include "codec/meanings.hpp"
+#include "codec/member_name.hpp"
 
 namespace vorlan {
 
 namespace {
-
-std::string_view bare(std::string_view name) { return name.starts_with("PR") ? name.substr(name.find('_') + 1) : name; }
 
 std::string plain_value(std::string_view bits) {
   constexpr std::size_t kNumberBits = 31;
@@ -48,7 +47,7 @@ void add_lines(std::span<const DissectedField> tree, std::size_t depth, std::vec
 
 DissectedField dissected_leaf(std::string_view name, const Meaning* meaning, std::string_view whole, Extent extent) {
   const std::string_view bits = slice(whole, extent);
-  DissectedField field{.name = std::string(bare(name)), .first = extent.offset + 1, .bits = std::string(bits)};
+  DissectedField field{.name = std::string(bare_name(name)), .first = extent.offset + 1, .bits = std::string(bits)};
   if (meaning != nullptr) field.value = value_text(*meaning, bits);
   if (field.value.empty()) field.value = plain_value(bits);
   if (bits.size() < extent.width) field.note = bits.empty() ? "past the end" : "cut off by the end";

@@ -1,4 +1,4 @@
-// Names of members that are checked when they are compiled.
+// Names of members: as people see them, and as they are checked when they are compiled.
 #pragma once
 
 #include <algorithm>
@@ -6,6 +6,11 @@
 #include <string_view>
 
 namespace vorlan {
+
+/// "CloseReason" of PRstr_CloseReason; a name without a property's prefix as it is.
+constexpr std::string_view bare_name(std::string_view name) noexcept {
+  return name.starts_with("PR") && name.find('_') != std::string_view::npos ? name.substr(name.find('_') + 1) : name;
+}
 
 /// A member's name as a template argument.
 template <std::size_t N>

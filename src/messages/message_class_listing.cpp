@@ -1,20 +1,17 @@
 // What listings show of a message's rows: fields with width and condition, and the texts it raises.
+#include "codec/member_name.hpp"
 #include "messages/message_class.hpp"
 
 namespace vorlan {
 
 namespace {
 
-std::string_view bare(std::string_view name) {
-  return name.starts_with("PR") && name.find('_') != std::string_view::npos ? name.substr(name.find('_') + 1) : name;
-}
-
 std::string width_text(const FieldSpec& field) {
   switch (field.width.kind) {
     case WidthRule::Kind::Fixed: return std::to_string(field.bits);
-    case WidthRule::Kind::OctetsCountedBy: return "8 x " + std::string(bare(field.width.field));
+    case WidthRule::Kind::OctetsCountedBy: return "8 x " + std::string(bare_name(field.width.field));
     case WidthRule::Kind::ValuePlus:
-      return std::string(bare(field.width.field)) + " + " + std::to_string(field.width.addend);
+      return std::string(bare_name(field.width.field)) + " + " + std::to_string(field.width.addend);
     case WidthRule::Kind::Rest: return "the rest";
   }
   return {};
@@ -22,7 +19,7 @@ std::string width_text(const FieldSpec& field) {
 
 std::string condition_text(const FieldSpec& field) {
   std::string text;
-  const std::string name(bare(field.present.field));
+  const std::string name(bare_name(field.present.field));
   switch (field.present.kind) {
     case PresenceRule::Kind::Always: break;
     case PresenceRule::Kind::IsOne: text = "if " + name + " = 1"; break;
@@ -30,15 +27,15 @@ std::string condition_text(const FieldSpec& field) {
     case PresenceRule::Kind::IsAboveZero: text = "if " + name + " > 0"; break;
     case PresenceRule::Kind::InChain: text = "if it or a later flag is 1"; break;
     case PresenceRule::Kind::AnyIsOne:
-      text = "if " + name + " or " + std::string(bare(field.present.other)) + " = 1";
+      text = "if " + name + " or " + std::string(bare_name(field.present.other)) + " = 1";
       break;
   }
-  if (!field.present.also_one.empty()) text += " and " + std::string(bare(field.present.also_one)) + " = 1";
+  if (!field.present.also_one.empty()) text += " and " + std::string(bare_name(field.present.also_one)) + " = 1";
   if (field.present.also_in_tail) text += ", in the tail";
   if (is_repeated(field)) {
     text += text.empty() ? "x " : ", x ";
-    text += field.repeat.times != 0 ? std::to_string(field.repeat.times) : std::string(bare(field.repeat.count));
-    if (!field.repeat.added_count.empty()) text += " + " + std::string(bare(field.repeat.added_count));
+    text += field.repeat.times != 0 ? std::to_string(field.repeat.times) : std::string(bare_name(field.repeat.count));
+    if (!field.repeat.added_count.empty()) text += " + " + std::string(bare_name(field.repeat.added_count));
     if (field.repeat.record != 0) text += " records";
   }
   return text;
@@ -71,7 +68,7 @@ std::vector<FieldInfo> MessageClass::list_fields() const {
     FieldInfo info{spec.name, width_text(spec), condition_text(spec), {}, {}, origin_text(*spec_, spec)};
     if (!spec.sent || spec.integer) info.condition = "not on the air";
     if (!spec.same_as.empty())
-      info.condition += (info.condition.empty() ? "" : ", ") + ("the same as " + std::string(bare(spec.same_as)));
+      info.condition += (info.condition.empty() ? "" : ", ") + ("the same as " + std::string(bare_name(spec.same_as)));
     if (spec_->builds() && (is_stored(spec) || spec.constant)) info.initial = field.initial;
     if (spec.meaning != nullptr) info.unit = spec.meaning->summary.empty() ? spec.meaning->unit : spec.meaning->summary;
     list.push_back(std::move(info));
@@ -124,7 +121,7 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
       std::string text(field.too_few);
       if (field.repeat.times == 0) text.append("...").append(message.too_few_end);
       add(source.empty() ? source_of(message, "CreateMessage") : std::string(source), text,
-          "CreateMessage with " + std::string(bare(field.name)) + " not as its count says");
+          "CreateMessage with " + std::string(bare_name(field.name)) + " not as its count says");
     }
     for (const Kind& kind : kOfGetters) {
       if (kind.fault == Fault::GetBeyondCount && !is_repeated(field)) continue;

@@ -21,7 +21,7 @@ class Record {
   [[nodiscard]] bool receive(std::string_view bits, bool may_be_cut_off = false);
   [[nodiscard]] std::string_view received_bits() const noexcept { return received_bits_; }
   [[nodiscard]] bool received() const noexcept { return received_; }
-  /// Which of the two the getters read. Error 1 where there is no received record to read.
+  /// Which of the two the getters read; the caller sees to it that there is a received record to read.
   void read_received(bool received) noexcept { received_ = received; }
   /// Everything as in a new object.
   void reset();

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <tuple>
 
+#include "codec/member_name.hpp"
+
 namespace vorlan {
 
 namespace {
@@ -10,8 +12,6 @@ namespace {
 std::int16_t index_of(std::span<const RecordField> rows, std::string_view name) {
   return name.empty() ? RecordClass::kNone : static_cast<std::int16_t>(find_field(rows, name));
 }
-
-std::string_view bare(std::string_view name) { return name.starts_with("PR") ? name.substr(name.find('_') + 1) : name; }
 
 /// The order in which a walk comes by.
 bool comes_before(const RecordLayout::Visit& visit, const RecordLayout::Visit& other) noexcept {
@@ -25,8 +25,8 @@ bool is_same(const RecordLayout::Visit& visit, const RecordLayout::Visit& other)
 std::string width_text(const RecordField& row) {
   switch (row.width.kind) {
     case RecordWidth::Kind::Fixed: return std::to_string(row.bits);
-    case RecordWidth::Kind::OctetsOf: return "8 x " + std::string(bare(row.width.field));
-    case RecordWidth::Kind::BitsOf: return std::string(bare(row.width.field));
+    case RecordWidth::Kind::OctetsOf: return "8 x " + std::string(bare_name(row.width.field));
+    case RecordWidth::Kind::BitsOf: return std::string(bare_name(row.width.field));
     case RecordWidth::Kind::ToOctet: return "to the octet";
   }
   return {};
@@ -34,7 +34,7 @@ std::string width_text(const RecordField& row) {
 
 std::string condition_text(const RecordField& row) {
   std::string text;
-  const std::string field(bare(row.only.field));
+  const std::string field(bare_name(row.only.field));
   switch (row.only.kind) {
     case OnlyIf::Kind::Always: break;
     case OnlyIf::Kind::One: text = "if " + field + " = 1"; break;
@@ -43,8 +43,8 @@ std::string condition_text(const RecordField& row) {
   }
   if (!is_list(row)) return text;
   if (!text.empty()) text += ", ";
-  text.append(bare(row.repeat.count)).append(" times");
-  if (is_table(row)) text.append(", each ").append(bare(row.repeat.inner)).append(" times");
+  text.append(bare_name(row.repeat.count)).append(" times");
+  if (is_table(row)) text.append(", each ").append(bare_name(row.repeat.inner)).append(" times");
   return text;
 }
 
@@ -104,7 +104,7 @@ std::string RecordClass::wrong_length(std::size_t field, At at, std::string_view
   if (!row.wrong_length.empty()) return std::string(row.wrong_length);
   const bool of_element = !row.repeat.elements.empty();
   const std::string whole = of_element ? element_name(row.repeat.elements, at) : std::string(row.name);
-  const std::string name(bare(whole));
+  const std::string name(bare_name(whole));
   const std::string bits(width);
   switch (texts_.family) {
     case RecordTexts::Named: return "Length of <" + name + "> field should be " + bits + " bits.";
