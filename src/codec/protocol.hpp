@@ -1,4 +1,4 @@
-// The protocols whose messages the classes encode and decode, by layer and by the type number of C.S0024-A 13.
+// The protocols of the messages that the classes encode and decode, by layer and by the type number of C.S0024-A 13.
 #pragma once
 
 #include <cstdint>
@@ -13,6 +13,9 @@ enum class Protocol : std::uint8_t {
   ForwardTrafficChannelMac,
   ReverseTrafficChannelMac,
   KeyExchange,
+  Authentication,  ///< this and the two below have no messages but those that propose attributes
+  Encryption,
+  Security,
   AirLinkManagement,
   InitializationState,
   IdleState,

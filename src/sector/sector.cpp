@@ -2,7 +2,7 @@
 
 #include "automation/error.hpp"
 #include "common/conversions.hpp"
-#include "security/remembered_values.hpp"
+#include "common/remembered_values.hpp"
 
 namespace vorlan {
 

@@ -13,8 +13,7 @@ std::span<const BoundMember> PlainProtocol<Protocol>::members() noexcept {
   static constexpr std::array kMembers{
       method<&PlainProtocol::Initialize>("Initialize", "signalling, messages, configuration",
                                          "Takes the test set's signalling object and its message collection"),
-      method<&PlainProtocol::NegotiateProtocolSubtype>(
-          "NegotiateProtocolSubtype", "subtype", "Proposes the protocol, or another subtype of it; True if accepted"),
+      method<&PlainProtocol::NegotiateProtocolSubtype>("NegotiateProtocolSubtype", "subtype", kProposesSubtype),
   };
   return kMembers;
 }

@@ -20,7 +20,8 @@ constexpr std::int32_t kShortestWait = 10;
 constexpr std::int16_t kKeyResponseTimeOut = 5 * test_set::kTimeOutsPerSecond;
 constexpr std::int16_t kKeyResponseCode = 1;
 constexpr std::int16_t kKeyCompleteCode = 3;
-constexpr std::string_view kKeyComplete = "ATKeyComplete";
+constexpr std::string_view kResponseLabel = "KeyResponseMsg";
+constexpr std::string_view kCompleteLabel = "ATKeyComplete";
 
 constexpr std::string_view kInitialize = "SB_PROT_DHKeyXChange.Initialize";
 constexpr std::string_view kExecute = "SB_PROT_DHKeyXChange.ExecuteDHKeyXChange";
@@ -34,8 +35,7 @@ constexpr std::array kMembers{
         "PRint_KeyRequestTimeOut", "Timeout of KeyRequest in seconds; -1 becomes 7 in Initialize"),
     property<&P::signature_time>("PRlng_TKEPSigCompAT",
                                  "Seconds that the access terminal took to answer ANKeyComplete"),
-    method<&P::NegotiateProtocolSubtype>("NegotiateProtocolSubtype", "subtype",
-                                         "Proposes the protocol, or another subtype of it; True if accepted"),
+    method<&P::NegotiateProtocolSubtype>("NegotiateProtocolSubtype", "subtype", kProposesSubtype),
     method<&P::NegotiateSKeyLength>("NegotiateSKeyLength", "keyLength",
                                     "Proposes a session key of 768 or 1024 bits; True if accepted"),
     method<&P::ExecuteDHKeyXChange>("ExecuteDHKeyXChange", "",
@@ -54,17 +54,14 @@ bool SB_PROT_DHKeyXChange::Initialize(const Value& signalling, const Value& secu
                                       const Value& messages, const std::optional<Ref<Object>>& configuration) {
   auto link = new_link(signalling, messages, configuration, kInitialize);
   Ref<Object> security_object = object_argument(security, kInitialize);
-  const auto bits = number_argument(key_length, 0, 0x7FFF, kInitialize);
-  if (!bits || !key_exchange::is_key_length(static_cast<std::size_t>(*bits))) {
-    raise(kInitialize, "Invalid argument type or value not of expected type.");
-  }
+  const auto bits = number_argument(key_length, kInitialize);
+  if (!bits || !key_exchange::is_key_length(*bits)) refuse_argument(kInitialize);
   initialize(std::move(link), std::move(security_object), static_cast<std::int16_t>(*bits));
   return true;
 }
 
 void SB_PROT_DHKeyXChange::initialize(std::shared_ptr<SecurityLink> link, Ref<Object> security,
                                       std::int16_t key_length) noexcept {
-  access_ = &link->access;
   negotiation_.initialize(std::move(link));
   security_ = std::move(security);
   key_length_ = key_length;
@@ -72,20 +69,18 @@ void SB_PROT_DHKeyXChange::initialize(std::shared_ptr<SecurityLink> link, Ref<Ob
 }
 
 bool SB_PROT_DHKeyXChange::NegotiateSKeyLength(std::optional<std::int32_t> key_length) {
-  SecurityLink& link = negotiation_.link(kNegotiate);
+  const auto link = negotiation_.link(kNegotiate);
   const std::int32_t bits = key_length.value_or(key_length_);
-  if (bits < 0 || !key_exchange::is_key_length(static_cast<std::size_t>(bits))) {
-    throw Error(ErrorNumber::InvalidCall, kNegotiate, "a session key has 768 or 1024 bits");
-  }
+  if (!key_exchange::is_key_length(bits)) refuse_argument(kNegotiate);
   SB_Sec_AttrSessionKeyLength attribute;
   attribute.let<"PRstr_AttrValue">(bits == 768 ? "00000000" : "00000001");
   const std::string length = std::to_string(bits);
-  negotiate(link, {.source = kNegotiate,
-                   .protocol_type = protocol_types::kKeyExchange,
-                   .attribute = attribute,
-                   .proposed = "ConfigurationRequest on Key Exchange Protocol proposing SKeyLength " + length,
-                   .mismatched = "is not same as that of ConfigurationRequest message, proposing SKeyLength " + length,
-                   .rejected = "AT rejected SKey Length " + length});
+  negotiate(*link, {.source = kNegotiate,
+                    .protocol_type = protocol_types::kKeyExchange,
+                    .attribute = attribute,
+                    .proposed = "ConfigurationRequest on Key Exchange Protocol proposing SKeyLength " + length,
+                    .mismatched = "is not same as that of ConfigurationRequest message, proposing SKeyLength " + length,
+                    .rejected = "AT rejected SKey Length " + length});
   key_length_ = static_cast<std::int16_t>(bits);
   remember(*platform_->settings, Remembered::SKeyLength, bits);
   return true;
@@ -103,100 +98,115 @@ bool SB_PROT_DHKeyXChange::ExecuteDHKeyXChange() {
   return run_exchange({kExecute, kExecute});
 }
 
-Ref<Object> SB_PROT_DHKeyXChange::key_request(Signalling& signalling, std::string_view transaction_id,
-                                              std::string_view source) const {
+/// One exchange under way. It keeps what it works with, even if a script's own test set initialises anew meanwhile.
+struct SB_PROT_DHKeyXChange::Exchange {
+  const Sources& sources;
+  std::shared_ptr<SecurityLink> link;
+  Ref<Object> security;
+  Signalling signalling;
+  std::uint8_t number;
+  std::string transaction_id;
+};
+
+Ref<Object> SB_PROT_DHKeyXChange::key_request(Exchange& exchange) const {
   std::string public_key;
-  read_whole_octets(*access_->object(Role::ANPublicKey, security_, key_length_), public_key);
-  Ref<Object> message = signalling.new_message_object();
-  try {
-    SB_Sec_MsgKeyRequest request;
-    request.initialize();
-    request.let<"PRstr_TransactionId">(transaction_id);
-    request.let<"PRstr_Timeout">(long_to_bin(key_request_time_out_, kOctet));
-    request.let<"PRstr_ANPubKey">(public_key);
-    if (public_key.size() != static_cast<std::size_t>(key_length_)) {
-      throw Error(ErrorNumber::TypeMismatch, {}, "the access network's public key is not as long as the session key");
+  read_whole_octets(*exchange.link->access.object(Role::ANPublicKey, exchange.security, key_length_), public_key);
+  Ref<Object> message = exchange.signalling.new_message_object();
+  std::string failure;
+  if (public_key.size() != static_cast<std::size_t>(key_length_)) {
+    failure = "the access network's public key is not as long as the session key";
+  } else {
+    try {
+      SB_Sec_MsgKeyRequest request;
+      request.initialize();
+      request.let<"PRstr_TransactionId">(exchange.transaction_id);
+      request.let<"PRstr_Timeout">(long_to_bin(key_request_time_out_, kOctet));
+      request.let<"PRstr_ANPubKey">(public_key);
+      request.create_message(message);
+      return message;
+    } catch (const Error& error) {
+      failure = error.source() + ": " + error.description();
     }
-    request.create_message(message);
-  } catch (const Error& error) {
-    platform_->debug->write_line(std::string(source) + " --- " + error.source() + ": " + error.description());
-    raise(source, "KeyRequest message could not be created.");
   }
-  return message;
+  platform_->debug->write_line(std::string(exchange.sources.request) + " --- " + failure);
+  raise(exchange.sources.request, "KeyRequest message could not be created.");
 }
 
-std::int32_t SB_PROT_DHKeyXChange::take_key_response(Signalling& signalling, std::string_view transaction_id,
-                                                     std::string_view source) {
-  constexpr std::string_view kLabel = "KeyResponseMsg";
+std::int32_t SB_PROT_DHKeyXChange::take_key_response(Exchange& exchange) {
   SB_Sec_MsgKeyResponse response;
-  response.receive(signalling.message(kLabel));
-  signalling.remove_message(kLabel);
-  if (response.get<"PRstr_TransactionId">() != transaction_id) {
-    raise(source,
+  response.receive(exchange.signalling.message(kResponseLabel));
+  exchange.signalling.remove_message(kResponseLabel);
+  if (response.get<"PRstr_TransactionId">() != exchange.transaction_id) {
+    raise(exchange.sources.request,
           "TransactionId field of KeyResponse message received is not same as the TransactionId field of KeyRequest "
           "message sent.");
   }
   const std::int32_t time_out = bin_to_long(response.get<"PRstr_Timeout">());
-  const Ref<Object> public_key = signalling.new_message_object();
+  const Ref<Object> public_key = exchange.signalling.new_message_object();
   fill_message(response.get<"PRstr_ATPubKey">(), *public_key);
-  access_->call(Role::ATPublicKey, security_, public_key);
+  exchange.link->access.call(Role::ATPublicKey, exchange.security, public_key);
   return time_out;
 }
 
-Ref<Object> SB_PROT_DHKeyXChange::an_key_complete(Signalling& signalling, std::uint8_t transaction_id) const {
+Ref<Object> SB_PROT_DHKeyXChange::an_key_complete(Exchange& exchange) {
+  const auto text = [&](Role role, const auto&... arguments) {
+    return exchange.link->access.call(role, exchange.security, arguments...).to_text();
+  };
   SB_Sec_MsgANKeyComplete complete;
   complete.initialize();
-  complete.let<"PRstr_TransactionId">(long_to_bin(transaction_id, kOctet));
+  complete.let<"PRstr_TransactionId">(exchange.transaction_id);
   // The Nonce comes first: the others belong to it.
-  complete.let<"PRstr_Nonce">(access_->call(Role::Nonce, security_).to_text());
-  complete.let<"PRstr_TimeStampShort">(access_->call(Role::TimeStampShort, security_).to_text());
-  complete.let<"PRstr_KeySignature">(
-      access_->call(Role::KeySignature, security_, std::int16_t{transaction_id}).to_text());
-  Ref<Object> message = signalling.new_message_object();
+  complete.let<"PRstr_Nonce">(text(Role::Nonce));
+  complete.let<"PRstr_TimeStampShort">(text(Role::TimeStampShort));
+  complete.let<"PRstr_KeySignature">(text(Role::KeySignature, std::int16_t{exchange.number}));
+  Ref<Object> message = exchange.signalling.new_message_object();
   complete.create_message(message);
   return message;
 }
 
+void SB_PROT_DHKeyXChange::take_key_complete(Exchange& exchange) {
+  SB_Sec_MsgATKeyComplete answer;
+  answer.receive(exchange.signalling.message(kCompleteLabel));
+  if (answer.get<"PRstr_TransactionId">() != exchange.transaction_id) {
+    raise(exchange.sources.complete,
+          "TransactionID field of ATKeyComplete message is not same as that of ANKeyComplete message.");
+  }
+  if (answer.get<"PRstr_Result">() != "1") {
+    raise(exchange.sources.complete, "The Result field of ATKeyComplete message is not 1.");
+  }
+}
+
 bool SB_PROT_DHKeyXChange::run_exchange(const Sources& sources) {
-  SecurityLink& link = negotiation_.link(sources.request);
-  Signalling signalling = link.open();
-  const std::uint8_t number = link.next_transaction_id++;
-  const std::string transaction_id = long_to_bin(number, kOctet);
+  const auto link = negotiation_.link(sources.request);
+  const std::uint8_t number = link->next_transaction_id++;
+  Exchange exchange{sources, link, security_, link->open(), number, long_to_bin(number, kOctet)};
+  Signalling& signalling = exchange.signalling;
   if (!signalling.exchange({.label = "KeyRequestMsg",
-                            .message = key_request(signalling, transaction_id, sources.request),
+                            .message = key_request(exchange),
                             .protocol_type = protocol_types::kKeyExchange,
                             .when_sent = test_set::kWhenSent,
-                            .answer_label = "KeyResponseMsg",
+                            .answer_label = kResponseLabel,
                             .answer_code = kKeyResponseCode,
                             .time_out = kKeyResponseTimeOut})) {
     raise(sources.request, "KeyResponse message could not be received.");
   }
-  const std::int32_t time_out = take_key_response(signalling, transaction_id, sources.request);
-  const Ref<Object> complete = an_key_complete(signalling, number);
+  const std::int32_t wait = std::max(take_key_response(exchange), kShortestWait);
+  const Ref<Object> complete = an_key_complete(exchange);
   const auto sent = platform_->clock->ticks();
-  if (!signalling.exchange(
-          {.label = "ANKeyComplete",
-           .message = complete,
-           .protocol_type = protocol_types::kKeyExchange,
-           .when_sent = test_set::kWhenSent,
-           .answer_label = kKeyComplete,
-           .answer_code = kKeyCompleteCode,
-           .time_out = static_cast<std::int16_t>(std::max(time_out, kShortestWait) * test_set::kTimeOutsPerSecond)})) {
+  if (!signalling.exchange({.label = "ANKeyComplete",
+                            .message = complete,
+                            .protocol_type = protocol_types::kKeyExchange,
+                            .when_sent = test_set::kWhenSent,
+                            .answer_label = kCompleteLabel,
+                            .answer_code = kKeyCompleteCode,
+                            .time_out = static_cast<std::int16_t>(wait * test_set::kTimeOutsPerSecond)})) {
     raise(sources.complete,
           "ATKeyComplete message could not be received from the AT in response to the ANKeyComplete message.");
   }
   const auto took = platform_->clock->ticks() - sent;
-  SB_Sec_MsgATKeyComplete answer;
-  answer.receive(signalling.message(kKeyComplete));
-  if (answer.get<"PRstr_TransactionId">() != transaction_id) {
-    raise(sources.complete,
-          "TransactionID field of ATKeyComplete message is not same as that of ANKeyComplete message.");
-  }
-  if (answer.get<"PRstr_Result">() != "1") {
-    raise(sources.complete, "The Result field of ATKeyComplete message is not 1.");
-  }
+  take_key_complete(exchange);
   signature_time_ = static_cast<std::int32_t>(std::chrono::duration_cast<std::chrono::seconds>(took).count());
-  signalling.remove_message(kKeyComplete);
+  signalling.remove_message(kCompleteLabel);
   return true;
 }
 

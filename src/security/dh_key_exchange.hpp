@@ -1,8 +1,6 @@
 // The access network's side of the Diffie-Hellman key exchange protocol (C.S0024-400-C 2.6). The test set computes.
 #pragma once
 
-#include <array>
-
 #include "automation/bind.hpp"
 #include "platform/platform.hpp"
 #include "security/security_negotiation.hpp"
@@ -47,15 +45,15 @@ class SB_PROT_DHKeyXChange final : public BoundObject<SB_PROT_DHKeyXChange> {
   bool run_exchange(const Sources& sources);
 
  private:
-  [[nodiscard]] Ref<Object> key_request(Signalling& signalling, std::string_view transaction_id,
-                                        std::string_view source) const;
-  [[nodiscard]] Ref<Object> an_key_complete(Signalling& signalling, std::uint8_t transaction_id) const;
+  struct Exchange;
+  [[nodiscard]] Ref<Object> key_request(Exchange& exchange) const;
   /// Hands the terminal's key to the test set; the time in seconds that the terminal asks for.
-  std::int32_t take_key_response(Signalling& signalling, std::string_view transaction_id, std::string_view source);
+  static std::int32_t take_key_response(Exchange& exchange);
+  [[nodiscard]] static Ref<Object> an_key_complete(Exchange& exchange);
+  static void take_key_complete(Exchange& exchange);
 
   Platform* platform_;
   ProtocolNegotiation negotiation_{kDHKeyXChange};
-  const TestSetAccess* access_ = nullptr;  // of the negotiation's link
   Ref<Object> security_;
   std::int16_t key_length_ = 0;
   std::int16_t key_request_time_out_ = -1;

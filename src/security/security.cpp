@@ -19,29 +19,29 @@ std::string member_of_security(std::string_view member) { return std::string("SB
 
 }  // namespace
 
-/// A protocol that can be chosen, how its object is made, and the setting that is logged with it.
+/// A protocol that can be chosen, how its object is made, and whether the length of its key is logged.
 struct SB_Security::Choice {
   const SecurityProtocol* protocol;
-  Ref<Object> (*make)(const SB_Security& security);
-  std::string_view key_length = {};
+  Ref<Object> (*make)(const SB_Security& security, std::int32_t key_length);
+  bool has_key = false;
 };
 
 template <const SecurityProtocol& Protocol>
-Ref<Object> SB_Security::make_plain(const SB_Security& security) {
+Ref<Object> SB_Security::make_plain(const SB_Security& security, std::int32_t /*key_length*/) {
   auto object = vorlan::make<PlainProtocol<Protocol>>(*security.platform_);
   object->initialize(security.link_);
   return object;
 }
 
-Ref<Object> SB_Security::make_sha1(const SB_Security& security) {
+Ref<Object> SB_Security::make_sha1(const SB_Security& security, std::int32_t key_length) {
   auto object = make<SB_PROT_SHA1Authentication>(*security.platform_);
-  object->initialize(security.link_, security.setting(kAuthKeyLength).to_long());
+  object->initialize(security.link_, key_length);
   return object;
 }
 
-Ref<Object> SB_Security::make_dh(const SB_Security& security) {
+Ref<Object> SB_Security::make_dh(const SB_Security& security, std::int32_t key_length) {
   auto object = make<SB_PROT_DHKeyXChange>(*security.platform_);
-  object->initialize(security.link_, security.security_object_, security.setting(kSKeyLength).to_integer());
+  object->initialize(security.link_, security.security_object_, static_cast<std::int16_t>(key_length));
   return object;
 }
 
@@ -50,9 +50,9 @@ const SB_Security::Choice* SB_Security::find_choice(SecurityFamilyId family, std
       Choice{&kDefaultSecurity, &make_plain<kDefaultSecurity>},
       Choice{&kGenericSecurity, &make_plain<kGenericSecurity>},
       Choice{&kDefaultKeyXChange, &make_plain<kDefaultKeyXChange>},
-      Choice{&kDHKeyXChange, &make_dh, kSKeyLength},
+      Choice{&kDHKeyXChange, &make_dh, true},
       Choice{&kDefaultAuthentication, &make_plain<kDefaultAuthentication>},
-      Choice{&kSHA1Authentication, &make_sha1, kAuthKeyLength},
+      Choice{&kSHA1Authentication, &make_sha1, true},
       Choice{&kDefaultEncryption, &make_plain<kDefaultEncryption>},
   };
   const auto* const found = std::find_if(kChoices.begin(), kChoices.end(), [&](const Choice& choice) {
@@ -73,6 +73,10 @@ bool SB_Security::Initialise(const Value& sector) {
   if (!test_set) test_set = object_of("PRobj_ParentTestSet");
   Ref<Object> security_object = link->access.object(Role::SecurityObject, test_set);
   report_ = object_of("PRobj_TestReport");
+  if (link_ && link_->signalling != link->signalling) {
+    chosen_ = {};
+    configured_ = false;
+  }
   security_object_ = std::move(security_object);
   configuration_ = std::move(configuration);
   link_ = std::move(link);
@@ -94,28 +98,26 @@ void SB_Security::log(std::string_view line) const {
   }
 }
 
-void SB_Security::check_session_key_length(std::string_view source) const {
+std::int32_t SB_Security::session_key_length(std::string_view source) const {
   const std::int16_t bits = setting(kSKeyLength).to_integer();
-  if (bits < 0 || !key_exchange::is_key_length(static_cast<std::size_t>(bits))) {
+  if (!key_exchange::is_key_length(bits)) {
     raise(source, "Invalid SessionKeyLength specified in Script parameters. Valid values are 768 or 1024.");
   }
-}
-
-void SB_Security::check_key_lengths(SecurityFamilyId family, std::int16_t subtype, const std::string& source) const {
-  // The session key's length is checked whatever key exchange is chosen.
-  if (family == SecurityFamilyId::KeyXChange) check_session_key_length(source);
-  if (family != SecurityFamilyId::Authentication || subtype != kSHA1Authentication.subtype) return;
-  const std::int32_t bits = setting(kAuthKeyLength).to_long();
-  if (bits < 0 || bits > SB_PROT_SHA1Authentication::kLongestKey) {
-    raise(source, "Invalid AuthenticationKeyLength specified");
-  }
+  return bits;
 }
 
 void SB_Security::configure(const SecurityFamily& family) {
   const std::string source = member_of_security(family.operation);
   check_initialized(source);
+  // The session key's length comes first, whatever key exchange is chosen.
+  std::int32_t key_length = family.id == SecurityFamilyId::KeyXChange ? session_key_length(source) : 0;
   const std::int16_t subtype = setting(family.selector).to_integer();
-  check_key_lengths(family.id, subtype, source);
+  if (family.id == SecurityFamilyId::Authentication) {
+    key_length = setting(kAuthKeyLength).to_long();
+    if (subtype == kSHA1Authentication.subtype && !SB_PROT_SHA1Authentication::is_key_length(key_length)) {
+      raise(source, "Invalid AuthenticationKeyLength specified");
+    }
+  }
   const auto text = [this](std::string_view property) { return setting(property).to_text(); };
   const SectorIdentity sector{.sector_id = text("PRstr_SectorID127_96") + text("PRstr_SectorID95_64") +
                                            text("PRstr_SectorID63_32") + text("PRstr_SectorID"),
@@ -124,9 +126,8 @@ void SB_Security::configure(const SecurityFamily& family) {
 
   Chosen& chosen = chosen_[static_cast<std::size_t>(family.id)];
   if (const Choice* choice = find_choice(family.id, subtype)) {
-    chosen = {choice->protocol, choice->make(*this)};
-    log(std::string(choice->protocol->initialized)
-            .append(choice->key_length.empty() ? "" : setting(choice->key_length).to_text()));
+    chosen = {choice->protocol, choice->make(*this, key_length)};
+    log(std::string(choice->protocol->initialized).append(choice->has_key ? std::to_string(key_length) : ""));
   } else {
     chosen = {};
     log(family.not_chosen);
@@ -137,15 +138,11 @@ void SB_Security::configure(const SecurityFamily& family) {
   remember_sector(settings, sector);
   remember(settings, family.remembered, subtype);
   if (family.id == SecurityFamilyId::Authentication) {
-    remember(settings, Remembered::AuthKeyLength, setting(kAuthKeyLength).to_long());
+    remember(settings, Remembered::AuthKeyLength, key_length);
   }
 }
 
 void SB_Security::ClearSessionStateInfo() { reset_remembered_values(*platform_->settings); }
-
-std::int32_t SB_Security::remembered_auth_key_length() const {
-  return recall(*platform_->settings, Remembered::AuthKeyLength);
-}
 
 Ref<Object> SB_Security::protocol(const SecurityProtocol& protocol) const {
   const Chosen& last = chosen(protocol.family);
@@ -159,9 +156,9 @@ Ref<Object> SB_Security::protocol(const SecurityProtocol& protocol) const {
 }
 
 template <class T>
-T* SB_Security::chosen(const SecurityProtocol& protocol) const noexcept {
+Ref<T> SB_Security::chosen(const SecurityProtocol& protocol) const noexcept {
   const Chosen& last = chosen(protocol.family);
-  return last.protocol == &protocol ? static_cast<T*>(last.object.get()) : nullptr;
+  return Ref<T>(last.protocol == &protocol ? static_cast<T*>(last.object.get()) : nullptr);
 }
 
 // --- retired entry points
@@ -173,9 +170,15 @@ void SB_Security::warn_retired(std::string_view operation) const {
 }
 
 bool SB_Security::Initialize(const Value& sector) {
-  const bool done = Initialise(sector);  // before the warning: the sector brings the test report
+  // The sector brings the test report, so the warning comes first only where no sector does.
+  try {
+    Initialise(sector);
+  } catch (...) {
+    warn_retired("Initialize");
+    throw;
+  }
   warn_retired("Initialize");
-  return done;
+  return true;
 }
 
 bool SB_Security::Configure() {
@@ -187,7 +190,8 @@ bool SB_Security::Configure() {
 
 void SB_Security::propose_subtype(std::int16_t protocol_type, std::int32_t subtype, std::string_view label) {
   const std::string name = std::string(label).append(" protocol");
-  negotiate_subtype(*link_, "SB_Security.NegotiateProtocolSubtype", protocol_type, subtype,
+  const auto link = link_;  // which stays, even if a script's own test set initialises anew meanwhile
+  negotiate_subtype(*link, "SB_Security.NegotiateProtocolSubtype", protocol_type, subtype,
                     {name, name, name, ", subtype "});
 }
 
@@ -216,14 +220,15 @@ bool SB_Security::SecurityNegotiations() {
   if (!configured_) {
     raise(kSource, "Please configure the security negotiations to be carried out by calling <configure>");
   }
-  for (const Chosen& one : chosen_) {
+  const auto all = chosen_;  // a script's own test set may configure again meanwhile
+  for (const Chosen& one : all) {
     if (one.protocol == nullptr || one.protocol->family == SecurityFamilyId::Encryption) continue;
     propose_subtype(security_family(one.protocol->family).protocol_type, one.protocol->subtype, one.protocol->label);
   }
-  auto* const key_exchange = chosen<SB_PROT_DHKeyXChange>(kDHKeyXChange);
-  if (key_exchange != nullptr) key_exchange->NegotiateSKeyLength({});
-  if (auto* sha1 = chosen<SB_PROT_SHA1Authentication>(kSHA1Authentication)) sha1->NegotiateAuthKeyLength({});
-  if (key_exchange != nullptr) {
+  const auto key_exchange = chosen<SB_PROT_DHKeyXChange>(kDHKeyXChange);
+  if (key_exchange) key_exchange->NegotiateSKeyLength({});
+  if (const auto sha1 = chosen<SB_PROT_SHA1Authentication>(kSHA1Authentication)) sha1->NegotiateAuthKeyLength({});
+  if (key_exchange) {
     run_key_exchange();
     log("DHKeyExchange procedure complete. SKey computed and verified successfully.");
   }
@@ -233,9 +238,8 @@ bool SB_Security::SecurityNegotiations() {
 bool SB_Security::run_key_exchange() {
   constexpr SB_PROT_DHKeyXChange::Sources kSources{"SB_Security.RunDiffie_HellManKeyXChange",
                                                    "SB_Security.SendANKeyComplReceiveATKeyCompl"};
-  if (auto* configured = chosen<SB_PROT_DHKeyXChange>(kDHKeyXChange)) return configured->run_exchange(kSources);
-  check_session_key_length(kSources.request);
-  const Ref<Object> once = make_dh(*this);
+  if (const auto configured = chosen<SB_PROT_DHKeyXChange>(kDHKeyXChange)) return configured->run_exchange(kSources);
+  const Ref<Object> once = make_dh(*this, session_key_length(kSources.request));
   return static_cast<SB_PROT_DHKeyXChange&>(*once).run_exchange(kSources);
 }
 

@@ -21,7 +21,7 @@ class SB_Security final : public BoundObject<SB_Security> {
   static std::span<const BoundMember> members() noexcept;
 
   /// Takes the sector's configuration, test report and signalling object, the latter's message collection and the test
-  /// set's security object.
+  /// set's security object. With another signalling object than before, what was configured has to be configured anew.
   bool Initialise(const Value& sector);
 
   template <SecurityFamilyId Family>
@@ -39,7 +39,9 @@ class SB_Security final : public BoundObject<SB_Security> {
   [[nodiscard]] std::int16_t remembered() const {
     return Value(recall(*platform_->settings, Which)).to_integer();
   }
-  [[nodiscard]] std::int32_t remembered_auth_key_length() const;
+  [[nodiscard]] std::int32_t remembered_auth_key_length() const {
+    return recall(*platform_->settings, Remembered::AuthKeyLength);
+  }
 
   // Retired: each logs that it is, and works.
   bool Initialize(const Value& sector);
@@ -61,25 +63,25 @@ class SB_Security final : public BoundObject<SB_Security> {
   struct Choice;
   static const Choice* find_choice(SecurityFamilyId family, std::int32_t subtype) noexcept;
   template <const SecurityProtocol& Protocol>
-  static Ref<Object> make_plain(const SB_Security& security);
-  static Ref<Object> make_sha1(const SB_Security& security);
-  static Ref<Object> make_dh(const SB_Security& security);
+  static Ref<Object> make_plain(const SB_Security& security, std::int32_t key_length);
+  static Ref<Object> make_sha1(const SB_Security& security, std::int32_t key_length);
+  static Ref<Object> make_dh(const SB_Security& security, std::int32_t key_length);
 
   void configure(const SecurityFamily& family);
-  void check_key_lengths(SecurityFamilyId family, std::int16_t subtype, const std::string& source) const;
+  /// The configuration's, 768 or 1024; error 1 otherwise.
+  [[nodiscard]] std::int32_t session_key_length(std::string_view source) const;
   [[nodiscard]] Ref<Object> protocol(const SecurityProtocol& protocol) const;
   [[nodiscard]] const Chosen& chosen(SecurityFamilyId family) const noexcept {
     return chosen_[static_cast<std::size_t>(family)];
   }
   /// Null where another protocol of its family was configured.
   template <class T>
-  [[nodiscard]] T* chosen(const SecurityProtocol& protocol) const noexcept;
+  [[nodiscard]] Ref<T> chosen(const SecurityProtocol& protocol) const noexcept;
   void propose_subtype(std::int16_t protocol_type, std::int32_t subtype, std::string_view label);
   bool run_key_exchange();
 
   [[nodiscard]] Value setting(std::string_view property) const;
   void check_initialized(std::string_view source) const;
-  void check_session_key_length(std::string_view source) const;
   void log(std::string_view line) const;
   void warn_retired(std::string_view operation) const;
 

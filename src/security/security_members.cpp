@@ -37,18 +37,18 @@ constexpr std::array kMembers{
     property<&S::protocol<kDefaultEncryption>>("PRobj_PROT_DefaultEncryption", "Default encryption, once configured"),
 
     property<&S::remembered<Remembered::SecurityType>>(name_of(Remembered::SecurityType),
-                                                       "Security protocol used last; 0 if none is remembered"),
-    property<&S::remembered<Remembered::KeyXChangeType>>(name_of(Remembered::KeyXChangeType),
-                                                         "Key exchange protocol used last; 0 if none is remembered"),
+                                                       "Security protocol configured last; 0 if none is remembered"),
+    property<&S::remembered<Remembered::KeyXChangeType>>(
+        name_of(Remembered::KeyXChangeType), "Key exchange protocol configured last; 0 if none is remembered"),
     property<&S::remembered<Remembered::SKeyLength>>(
         name_of(Remembered::SKeyLength), "Session key length last agreed upon in bits; 0 if none is remembered"),
     property<&S::remembered<Remembered::AuthenticationType>>(
-        name_of(Remembered::AuthenticationType), "Authentication protocol used last; 0 if none is remembered"),
+        name_of(Remembered::AuthenticationType), "Authentication protocol configured last; 0 if none is remembered"),
     property<&S::remembered_auth_key_length>(
         name_of(Remembered::AuthKeyLength),
         "Authentication key length configured last in bits; 160 if none is remembered"),
-    property<&S::remembered<Remembered::EncryptionType>>(name_of(Remembered::EncryptionType),
-                                                         "Encryption protocol used last; 0 if none is remembered"),
+    property<&S::remembered<Remembered::EncryptionType>>(
+        name_of(Remembered::EncryptionType), "Encryption protocol configured last; 0 if none is remembered"),
 
     method<&S::Initialize>("Initialize", "sector", "Retired: Initialise"),
     method<&S::Configure>("Configure", "", "Retired: all four Configure operations"),

@@ -13,11 +13,9 @@ constexpr int kIdBits = 16;
 constexpr int kSubtypeBits = 16;
 constexpr std::int32_t kHighestSubtype = 0xFFFF;
 
-[[noreturn]] void refuse_argument(std::string_view source) {
-  raise(source, "Invalid argument type or value not of expected type.");
-}
-
 }  // namespace
+
+void refuse_argument(std::string_view source) { raise(source, "Invalid argument type or value not of expected type."); }
 
 Ref<Object> object_argument(const Value& argument, std::string_view source) {
   const auto* object = argument.as<Ref<Object>>();
@@ -25,17 +23,13 @@ Ref<Object> object_argument(const Value& argument, std::string_view source) {
   return *object;
 }
 
-std::optional<std::int32_t> number_argument(const Value& argument, std::int32_t lowest, std::int32_t highest,
-                                            std::string_view source) {
-  std::int32_t number = 0;
+std::optional<std::int32_t> number_argument(const Value& argument, std::string_view source) {
   try {
-    number = argument.to_long();
+    return argument.to_long();
   } catch (const Error& error) {
     if (error.is(ErrorNumber::Overflow)) return std::nullopt;
     refuse_argument(source);
   }
-  if (number < lowest || number > highest) return std::nullopt;
-  return number;
 }
 
 std::shared_ptr<SecurityLink> new_link(const Value& signalling, const Value& messages,
@@ -99,18 +93,18 @@ std::string_view ProtocolNegotiation::uninitialized() const noexcept {
   return protocol_->uninitialized.empty() ? protocol_->name : protocol_->uninitialized;
 }
 
-SecurityLink& ProtocolNegotiation::link(std::string_view source) const {
+std::shared_ptr<SecurityLink> ProtocolNegotiation::link(std::string_view source) const {
   if (!link_) {
     raise(source,
           std::string(uninitialized()).append(" object not initialized. Please call <Initialize> method first."));
   }
-  return *link_;
+  return link_;
 }
 
 bool ProtocolNegotiation::negotiate_subtype(std::optional<std::int32_t> subtype) const {
   constexpr std::string_view kMember = ".NegotiateProtocolSubtype";
-  SecurityLink& link = this->link(std::string(uninitialized()).append(kMember));
-  vorlan::negotiate_subtype(link, std::string(protocol_->name).append(kMember),
+  const auto link = this->link(std::string(uninitialized()).append(kMember));
+  vorlan::negotiate_subtype(*link, std::string(protocol_->name).append(kMember),
                             security_family(protocol_->family).protocol_type, subtype.value_or(protocol_->subtype),
                             {protocol_->proposed, protocol_->mismatched, protocol_->rejected, protocol_->separator});
   return true;

@@ -21,12 +21,12 @@ struct SecurityLink {
   [[nodiscard]] Signalling open() const { return {access, signalling, messages}; }
 };
 
+/// Error 1: an argument of another kind than is due.
+[[noreturn]] void refuse_argument(std::string_view source);
 /// The object that an argument of Initialize is; error 1 for anything else, Nothing included.
 Ref<Object> object_argument(const Value& argument, std::string_view source);
-/// The number that it is, from `lowest` to `highest`; the same error for anything that is no number, and nothing for
-/// one out of range.
-std::optional<std::int32_t> number_argument(const Value& argument, std::int32_t lowest, std::int32_t highest,
-                                            std::string_view source);
+/// The number that it is; the same error for anything that is no number, and nothing for one that no Long holds.
+std::optional<std::int32_t> number_argument(const Value& argument, std::string_view source);
 /// A link of its own, for a protocol object that a script initialises; a configuration names the test set's members.
 std::shared_ptr<SecurityLink> new_link(const Value& signalling, const Value& messages,
                                        const std::optional<Ref<Object>>& configuration, std::string_view source);
@@ -56,6 +56,10 @@ struct SubtypeTexts {
 void negotiate_subtype(SecurityLink& link, std::string_view source, std::int16_t protocol_type, std::int32_t subtype,
                        const SubtypeTexts& texts);
 
+/// What NegotiateProtocolSubtype does, for people.
+inline constexpr std::string_view kProposesSubtype =
+    "Proposes the protocol, or another subtype of it; True if accepted";
+
 /// The part of a protocol object that is the same in every class.
 class ProtocolNegotiation {
  public:
@@ -64,7 +68,7 @@ class ProtocolNegotiation {
   void initialize(std::shared_ptr<SecurityLink> link) noexcept { link_ = std::move(link); }
   [[nodiscard]] bool is_initialized() const noexcept { return link_ != nullptr; }
   /// Error 1, in the protocol's own words, before initialize().
-  [[nodiscard]] SecurityLink& link(std::string_view source) const;
+  [[nodiscard]] std::shared_ptr<SecurityLink> link(std::string_view source) const;
   /// The protocol's own subtype if none is given. True, or an error.
   bool negotiate_subtype(std::optional<std::int32_t> subtype) const;
   /// "SB_PROT_GenericSecurity.Initialize"

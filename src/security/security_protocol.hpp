@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "common/remembered_values.hpp"
 #include "sector/signalling.hpp"
-#include "security/remembered_values.hpp"
 
 namespace vorlan {
 
@@ -47,7 +47,7 @@ struct SecurityProtocol {
   SecurityFamilyId family;
   std::int16_t subtype;
   std::string_view initialized;  ///< logged by SB_Security; a key length follows where there is one
-  std::string_view label;        ///< in SB_Security's own negotiations; none: it does not negotiate the protocol
+  std::string_view label;        ///< in SB_Security's own negotiations
   std::string_view proposed;     ///< the protocol in the text about a missing answer,
   std::string_view mismatched;   ///< in the one about another TransactionID
   std::string_view rejected;     ///< and in the one about a refusal
@@ -132,7 +132,7 @@ inline constexpr SecurityProtocol kDefaultEncryption{.name = "SB_PROT_DefaultEnc
                                                      .family = SecurityFamilyId::Encryption,
                                                      .subtype = 0,
                                                      .initialized = "Default Encryption Protocol Initialized.",
-                                                     .label = {},
+                                                     .label = "Default Encryption",
                                                      .proposed = "Default Encryption protocol",
                                                      .mismatched = "Default Encryption protocol",
                                                      .rejected = "Default Encryption protocol",

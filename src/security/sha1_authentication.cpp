@@ -12,13 +12,13 @@ using P = SB_PROT_SHA1Authentication;
 
 constexpr int kKeyLengthBits = 16;
 constexpr std::string_view kInitialize = "SB_PROT_SHA1Authentication.Initialize";
+constexpr std::string_view kWrongLength = "Invalid value of Auth Key Length specified.";
 constexpr std::string_view kNegotiate = "SB_PROT_SHA1Authentication.NegotiateAuthKeyLength";
 
 constexpr std::array kMembers{
     method<&P::Initialize>("Initialize", "signalling, keyLength, messages, configuration",
                            "Takes the test set's signalling object, a key length in bits and the message collection"),
-    method<&P::NegotiateProtocolSubtype>("NegotiateProtocolSubtype", "subtype",
-                                         "Proposes the protocol, or another subtype of it; True if accepted"),
+    method<&P::NegotiateProtocolSubtype>("NegotiateProtocolSubtype", "subtype", kProposesSubtype),
     method<&P::NegotiateAuthKeyLength>("NegotiateAuthKeyLength", "keyLength",
                                        "Proposes a key length in bits; True if accepted"),
 };
@@ -33,8 +33,8 @@ std::span<const BoundMember> SB_PROT_SHA1Authentication::members() noexcept { re
 bool SB_PROT_SHA1Authentication::Initialize(const Value& signalling, const Value& key_length, const Value& messages,
                                             const std::optional<Ref<Object>>& configuration) {
   auto link = new_link(signalling, messages, configuration, kInitialize);
-  const auto bits = number_argument(key_length, 0, kLongestKey, kInitialize);
-  if (!bits) raise(kInitialize, "Invalid value of Auth Key Length specified.");
+  const auto bits = number_argument(key_length, kInitialize);
+  if (!bits || !is_key_length(*bits)) raise(kInitialize, kWrongLength);
   initialize(std::move(link), *bits);
   return true;
 }
@@ -45,16 +45,14 @@ void SB_PROT_SHA1Authentication::initialize(std::shared_ptr<SecurityLink> link, 
 }
 
 bool SB_PROT_SHA1Authentication::NegotiateAuthKeyLength(std::optional<std::int32_t> key_length) {
-  SecurityLink& link = negotiation_.link(kNegotiate);
+  const auto link = negotiation_.link(kNegotiate);
   const std::int32_t bits = key_length.value_or(key_length_);
-  if (bits < 0 || bits > kLongestKey) {
-    throw Error(ErrorNumber::InvalidCall, kNegotiate, "an authentication key has 0 to 65535 bits");
-  }
+  if (!is_key_length(bits)) raise(kNegotiate, kWrongLength);
   SB_Sec_AttrACAuthKeyLength attribute;
   attribute.let<"PRstr_AttrValue">(long_to_bin(bits, kKeyLengthBits));
   const std::string length = std::to_string(bits);
   // "Key Exchange" is another protocol on purpose.
-  negotiate(link,
+  negotiate(*link,
             {.source = kNegotiate,
              .protocol_type = protocol_types::kAuthentication,
              .attribute = attribute,

@@ -7,10 +7,12 @@
 
 namespace vorlan {
 
-/// Error 1 if the access terminal does not answer or does not accept, and before Initialize.
+/// Error 1 if the access terminal does not answer or does not accept, for a key length out of range, and before
+/// Initialize.
 class SB_PROT_SHA1Authentication final : public BoundObject<SB_PROT_SHA1Authentication> {
  public:
-  static constexpr std::int32_t kLongestKey = 0xFFFF;  ///< in bits; the shortest has 0
+  /// From 0 to 65535 bits.
+  static constexpr bool is_key_length(std::int32_t bits) noexcept { return bits >= 0 && bits <= 0xFFFF; }
 
   explicit SB_PROT_SHA1Authentication(Platform& platform) noexcept : platform_(&platform) {}
 

@@ -1,6 +1,9 @@
 // Diffie-Hellman Key Exchange Protocol messages (C.S0024-400-C 2.6) of the security layer.
 #pragma once
 
+#include <concepts>
+#include <utility>
+
 #include "codec/meanings.hpp"
 #include "messages/message_of.hpp"
 
@@ -11,7 +14,9 @@ inline constexpr Code kResults[] = {{0, "signatures differ"}, {1, "verified"}};
 inline constexpr Meaning kResult{.codes = kResults, .summary = "verified or not"};
 inline constexpr Meaning kSystemTime{.unit = "s", .scale = 0.08, .summary = "80 ms, the low 16 bits of the time"};
 /// Whether a public key is as wide as a session key: 768 or 1024 bits.
-constexpr bool is_key_length(std::size_t bits) noexcept { return bits == 768 || bits == 1024; }
+constexpr bool is_key_length(std::integral auto bits) noexcept {
+  return std::cmp_equal(bits, 768) || std::cmp_equal(bits, 1024);
+}
 void check_public_key(const Message& message, std::size_t index, std::string_view value);
 }  // namespace key_exchange
 
