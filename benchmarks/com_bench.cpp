@@ -118,12 +118,14 @@ void measure(int rounds) {
   const DISPID property = message.id(L"PRstr_MessageID");
   std::vector<double> leasts;
   std::vector<double> reads;
+  std::vector<double> ratios;
   for (int round = 0; round < rounds; ++round) {
     leasts.push_back(nanoseconds_each(least, 1));
     reads.push_back(nanoseconds_each(message, property));
+    ratios.push_back(reads.back() / leasts.back());
   }
   std::printf("COM property  %.0f ns\nCOM least  %.0f ns\nCOM ratio  %.2f\n", median(reads), median(leasts),
-              median(reads) / median(leasts));
+              median(ratios));
   least.invoke(L"End", DISPATCH_METHOD, {});
 }
 

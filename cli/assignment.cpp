@@ -29,4 +29,8 @@ Assignment parse_assignment(std::string_view word) {
   return parsed;
 }
 
+Error no_layout(std::string_view class_name, const Assignment& assignment) {
+  return Error(ErrorNumber::MemberNotFound, class_name, assignment.name + " (it selects no layout)");
+}
+
 }  // namespace vorlan::cli

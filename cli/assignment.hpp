@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "automation/error.hpp"
+
 namespace vorlan::cli {
 
 struct Assignment {
@@ -17,5 +19,8 @@ struct Assignment {
 
 /// Usage error if the word is not an assignment.
 Assignment parse_assignment(std::string_view word);
+
+/// Error 438: decode takes only assignments to properties that select a layout.
+Error no_layout(std::string_view class_name, const Assignment& assignment);
 
 }  // namespace vorlan::cli

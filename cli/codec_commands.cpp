@@ -10,6 +10,7 @@
 #include "cli/print_dissected.hpp"
 #include "cli/record_codec.hpp"
 #include "cli/sector.hpp"
+#include "cli/table.hpp"
 #include "common/bits.hpp"
 #include "messages/dissection.hpp"
 #include "messages/identification.hpp"
@@ -112,6 +113,11 @@ void encode(const Registry& registry, const EncodeOptions& options, bool json) {
   const Registry::Class& named = class_named(registry, options.class_name);
   Platform platform = native_platform();
   const Ref<Object> object = named.entry->create(platform);
+  const auto* known = dynamic_cast<const Message*>(object.get());
+  const bool takes_sector = known != nullptr && known->message_class().spec().takes_sector;
+  if (!options.parameter_file.empty() && !takes_sector) {
+    throw UsageError(std::string(named.name()) + " takes no values from a sector's configuration: leave out --config");
+  }
   if (encode_record(registry, object, options.assignments, json)) return;
   Message& message = message_behind(object, named.name(), "CreateMessage");
   const MessageSpec& spec = message.message_class().spec();
@@ -119,7 +125,7 @@ void encode(const Registry& registry, const EncodeOptions& options, bool json) {
   const std::vector<Target> targets = resolve(message.message_class(), options.assignments);
 
   Ref<Object> sector;
-  if (spec.takes_sector) {
+  if (takes_sector) {
     if (options.parameter_file.empty()) {
       throw UsageError(std::string(spec.name) + " takes values from a sector's configuration: give --config FILE");
     }
@@ -166,32 +172,26 @@ const Registry::Class& class_of(const Registry& registry, const std::string& whe
 
 void decode(const Registry& registry, const std::string& where, const std::vector<std::string>& words, bool json) {
   std::vector<std::string> digits;
-  std::vector<Assignment> assignments;
+  std::vector<std::string> assignments;
   // Records do not tell which protocol they belong to: it may be named beside the class.
   const bool class_is_named = where.empty() || registry.find(words.front()) != nullptr;
   for (const std::string& word : std::span(words).subspan(class_is_named ? 1 : 0)) {
-    if (word.find('=') == std::string::npos) {
-      digits.push_back(word);
-    } else {
-      assignments.push_back(parse_assignment(word));
-    }
+    (word.find('=') == std::string::npos ? digits : assignments).push_back(word);
   }
-  if (digits.empty()) throw UsageError("no octets given");
+  const Registry::Class* named = class_is_named ? &class_named(registry, words.front()) : nullptr;
   const std::vector<std::uint8_t> octets = parse_octets(digits);
   if (octets.empty()) throw UsageError("no octets given");
 
-  const Registry::Class& named =
-      class_is_named ? class_named(registry, words.front()) : class_of(registry, where, octets);
+  if (named == nullptr) named = &class_of(registry, where, octets);
   Platform platform = native_platform();
-  const Ref<Object> object = named.entry->create(platform);
-  if (assignments.empty() && decode_record(registry, object, octets, where, json)) return;
+  const Ref<Object> object = named->entry->create(platform);
+  if (decode_record(registry, object, octets, assignments, where, json)) return;
   if (class_is_named && !where.empty()) throw UsageError("a class or a protocol, not both, finds a message");
-  Message& message = message_behind(object, named.name(), "PRobj_MessageObject");
-  for (Assignment& assignment : assignments) {
-    const Target target = resolve(message.message_class(), std::move(assignment));
+  Message& message = message_behind(object, named->name(), "PRobj_MessageObject");
+  for (const Target& target : resolve(message.message_class(), assignments)) {
     const auto fields = message.message_class().fields();
     if (target.row == fields.size() || !fields[target.row].spec->integer) {
-      throw Error(ErrorNumber::MemberNotFound, named.name(), target.assignment.name + " (it selects no layout)");
+      throw no_layout(named->name(), target.assignment);
     }
     assign(message, target);
   }
@@ -199,14 +199,16 @@ void decode(const Registry& registry, const std::string& where, const std::vecto
 }
 
 std::string protocol_list() {
-  std::string text = "Protocols, by layer:";
-  std::string_view layer;
+  std::vector<std::vector<std::string>> layers;
   for (const ProtocolInfo& info : protocols()) {
-    text.append(info.layer == layer ? ", " : "\n  " + std::string(info.layer) + ": ").append(info.name);
-    if (info.type >= 0) text.append(" (").append(std::to_string(info.type)).append(")");
-    layer = info.layer;
+    if (layers.empty() || layers.back().front() != info.layer) layers.push_back({std::string(info.layer), {}});
+    std::string& names = layers.back().back();
+    names.append(names.empty() ? "" : ", ").append(info.name);
+    if (info.type >= 0) names.append(" (").append(std::to_string(info.type)).append(")");
   }
-  return text;
+  Table table;
+  for (auto& layer : layers) table.add(std::move(layer));
+  return "Protocols, by layer:\n" + table.text("  ", kWidestCell);
 }
 
 }  // namespace vorlan::cli

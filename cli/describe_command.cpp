@@ -64,7 +64,7 @@ ordered_json members_json(const ClassInfo& info) {
 ordered_json class_json(const Registry::Class& named) {
   const ClassInfo& info = named.info();
   ordered_json json{{"name", info.name()}, {"prog_id", named.prog_id()}, {"summary", info.summary()}};
-  json["clause"] = info.clause();
+  json["defined_in"] = info.defined_in();
   json["fields"] = ordered_json::array();
   for (const FieldInfo& field : info.fields()) {
     json["fields"].push_back({{"name", field.name},
@@ -77,7 +77,8 @@ ordered_json class_json(const Registry::Class& named) {
   json["members"] = members_json(info);
   json["errors"] = ordered_json::array();
   for (const ErrorInfo& error : info.errors()) {
-    json["errors"].push_back({{"source", error.source}, {"description", error.description}, {"when", error.when}});
+    json["errors"].push_back(
+        {{"number", error.number}, {"source", error.source}, {"description", error.description}, {"when", error.when}});
   }
   return json;
 }
@@ -95,29 +96,37 @@ void print_fields(const ClassInfo& info) {
     table.add({std::string(bare_name(field.name)), field.width, initial_text(field.initial), field.unit, field.origin,
                field.condition});
   }
-  std::printf("\nFields, in air-interface order\n%s", table.text("  ").c_str());
+  constexpr std::size_t kWidest = 40;  // of so many columns
+  std::printf("\nFields, in air-interface order\n%s", table.text("  ", kWidest).c_str());
 }
 
 void print_members(const ClassInfo& info) {
+  constexpr std::size_t kSignature = 110;
   Table properties;
   std::string methods;
   for (const MemberInfo& member : info.members()) {
     if (member.is_method()) {
-      methods += "  " + signature(member) + "\n" + (member.summary.empty() ? "" : "      " + member.summary + "\n");
+      std::string_view indent = "  ";
+      for (const std::string& line : wrapped(signature(member), kSignature, ", ")) {
+        methods.append(indent).append(line).append("\n");
+        indent = "          ";
+      }
+      if (!member.summary.empty()) methods.append("      ").append(member.summary).append("\n");
     } else {
       properties.add({signature(member), access_text(member), member.summary});
     }
   }
-  const std::string text = properties.text("  ");
+  const std::string text = properties.text("  ", kWidestCell);
   if (!text.empty()) std::printf("\nProperties\n%s", text.c_str());
   if (!methods.empty()) std::printf("\nMethods\n%s", methods.c_str());
 }
 
 void print_errors(const ClassInfo& info) {
   if (info.errors().empty()) return;
-  std::printf("\nErrors, all of number 1\n");
+  std::printf("\nErrors\n");
   for (const ErrorInfo& error : info.errors()) {
-    std::printf("  %s: %s\n      \"%s\"\n", error.source.c_str(), error.when.c_str(), error.description.c_str());
+    std::printf("  error %d%s%s: %s\n      \"%s\"\n", error.number, error.source.empty() ? "" : " in ",
+                error.source.c_str(), error.when.c_str(), error.description.c_str());
   }
 }
 
@@ -130,8 +139,8 @@ void describe_class(const Registry& registry, const std::string& name, bool json
     std::puts(class_json(named).dump(2).c_str());
     return;
   }
-  const std::string clause = info.clause().empty() ? "" : "  (C.S0024 clause " + std::string(info.clause()) + ")";
-  std::printf("%s%s\n%s\n", named.prog_id().c_str(), clause.c_str(), std::string(info.summary()).c_str());
+  const std::string where = info.clause().empty() ? "" : "  (" + info.defined_in() + ")";
+  std::printf("%s%s\n%s\n", named.prog_id().c_str(), where.c_str(), std::string(info.summary()).c_str());
   print_fields(info);
   print_members(info);
   print_errors(info);

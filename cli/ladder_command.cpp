@@ -53,6 +53,7 @@ void ladder(const Registry& registry, const std::string& path) {
                   path + ", line " + std::to_string(number) + " is no message of a trace: " + error.what());
     }
   }
+  if (file.bad()) throw Error(ErrorNumber::FileAccess, "ladder", path);  // a folder, say
   std::fputs(simulator::ladder_text(entries, registry, carrier).c_str(), stdout);
 }
 

@@ -18,7 +18,8 @@ ordered_json tree_json(std::span<const DissectedField> tree) {
   auto list = ordered_json::array();
   for (const DissectedField& field : tree) {
     ordered_json node{{"name", field.name}, {"first", field.first}};
-    if (field.below.empty()) node.update({{"width", field.bits.size()}, {"bits", field.bits}, {"value", field.value}});
+    if (field.below.empty()) node.update({{"width", field.bits.size()}, {"bits", field.bits}});
+    if (field.below.empty() || !field.value.empty()) node["value"] = field.value;
     if (!field.note.empty()) node["note"] = field.note;
     if (!field.below.empty()) node["fields"] = tree_json(field.below);
     list.push_back(std::move(node));

@@ -174,13 +174,14 @@ bool encode_record(const Registry& registry, const Ref<Object>& object, const st
 }
 
 bool decode_record(const Registry& registry, const Ref<Object>& object, std::span<const std::uint8_t> octets,
-                   const std::string& where, bool json) {
+                   const std::vector<std::string>& assignments, const std::string& where, bool json) {
   const auto* known = dynamic_cast<const ClassObject*>(object.get());
   const bool carries = dynamic_cast<const NegotiationMessage*>(known) != nullptr;
   if (!carries && dynamic_cast<const Attribute*>(known) == nullptr &&
       dynamic_cast<const AttributeValue*>(known) == nullptr) {
     return false;
   }
+  if (!assignments.empty()) throw no_layout(known->class_info()->name(), parse_assignment(assignments.front()));
   std::string bits(octets.size() * 8, '0');
   unpack_bits(octets.data(), bits.size(), bits.data());
   print_record(registry, *known, bits, where, json);

@@ -17,9 +17,9 @@ namespace vorlan::cli {
 bool encode_record(const Registry& registry, const Ref<Object>& object, const std::vector<std::string>& assignments,
                    bool json);
 /// Takes octets apart and prints. `where` names the protocol over which a message with attribute records travels; it
-/// may be empty. False if the object is of another kind.
+/// may be empty. There are no layouts to choose: error 438 for an assignment. False if the object is of another kind.
 bool decode_record(const Registry& registry, const Ref<Object>& object, std::span<const std::uint8_t> octets,
-                   const std::string& where, bool json);
+                   const std::vector<std::string>& assignments, const std::string& where, bool json);
 /// A message that carries attribute records taken apart, and its class; nothing if it is another message.
 std::optional<std::pair<std::string, std::vector<DissectedField>>> dissect_carrier(const Registry& registry,
                                                                                    int protocol_type,

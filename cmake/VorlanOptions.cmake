@@ -16,6 +16,8 @@ option(VORLAN_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
 
 add_library(vorlan_options INTERFACE)
 if(MSVC)
+  # Programs need no runtime library beside them.
+  set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
   target_compile_options(vorlan_options INTERFACE /W4 /utf-8 $<$<BOOL:${VORLAN_WARNINGS_AS_ERRORS}>:/WX>)
 else()
   target_compile_options(vorlan_options INTERFACE

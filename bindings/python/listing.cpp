@@ -60,7 +60,7 @@ std::string member_text(const MemberInfo& member) {
 
 std::string class_text(const ClassInfo& info) {
   std::string text(info.summary());
-  if (!info.clause().empty()) text.append("\n\nC.S0024 ").append(info.clause());
+  if (!info.clause().empty()) text.append("\n\n").append(info.defined_in());
   if (info.fields().empty()) return text;
   text += "\n\nFields in air-interface order:";
   for (const FieldInfo& field : info.fields()) {

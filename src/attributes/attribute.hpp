@@ -9,9 +9,21 @@
 
 namespace vorlan {
 
+/// "MaxMACFlows" of SB_Mac_AttrMaxMACFlows.
+constexpr std::string_view attribute_name(std::string_view class_name) noexcept {
+  constexpr std::string_view kFront = "SB_Mac_Attr";  // whatever the layer
+  return class_name.substr(kFront.size());
+}
+
+/// What Length says of so many bits behind it: whole octets, half of one to the even number, as numbers become
+/// integers.
+constexpr std::size_t octets_behind_length(std::size_t bits) noexcept { return (bits + 3 + bits / 8 % 2) / 8; }
+
 /// A simple or complex configuration attribute.
 class Attribute : public ClassObject {
  public:
+  static constexpr std::size_t kLengthBits = 8;
+
   /// PRstr_Attribute: takes a received record, Length and AttributeID included. Errors are number 1 with the class's
   /// own texts, and leave the object as it was.
   virtual void receive(std::string_view record) = 0;

@@ -1,8 +1,9 @@
 // The C++ face of a simple attribute class: a type of its own, with its members checked when it is compiled.
 #pragma once
 
+#include "attributes/attribute_table.hpp"
 #include "attributes/simple_attribute.hpp"
-#include "automation/registry.hpp"
+#include "codec/member_name.hpp"
 
 namespace vorlan {
 
@@ -23,13 +24,15 @@ struct AttributeProperty {
   }
 };
 
-/// The class made from a row:
+/// The class made from a row of a table; each has a name beside its table:
 ///   SB_Mac_AttrFRABlow a;
 ///   a.let<"PRstr_AttrValue">("00000001");
 ///   a.build();
 /// Views returned by get() hold until the object changes.
-template <const SimpleAttributeSpec& Spec>
+template <const auto& Rows, std::size_t kRow>
 class AttributeOf : public SimpleAttribute {
+  static_assert(kRow < std::size(Rows), "no row has the name of this class");
+
  public:
   AttributeOf() : SimpleAttribute(shared_class()) {}
   // A local or a member object keeps the one reference that it starts with, and goes without releasing it.
@@ -40,7 +43,7 @@ class AttributeOf : public SimpleAttribute {
 
   template <AttributeProperty Property>
   void let(std::string_view bits) {
-    static_assert(Property.member != AttributeMember::AttribId || Spec.id_settable, "the AttributeID is fixed");
+    static_assert(Property.member != AttributeMember::AttribId || Rows[kRow].id_settable, "the AttributeID is fixed");
     if constexpr (Property.member == AttributeMember::Attribute) receive(bits);
     if constexpr (Property.member == AttributeMember::Length) let_length(bits);
     if constexpr (Property.member == AttributeMember::AttribId) let_id(bits);
@@ -55,17 +58,12 @@ class AttributeOf : public SimpleAttribute {
   }
 
   static const SimpleAttributeClass& shared_class() {
-    static_assert(fault(Spec).empty(), "a fault in the attribute's row; the test of the attribute tables prints it");
-    static const SimpleAttributeClass kClass{Spec};
+    static_assert(fault(Rows[kRow]).empty(), "a fault in the attribute's row; the test of the tables prints it");
+    static const SimpleAttributeClass kClass{Rows[kRow]};
     return kClass;
   }
   static const ClassInfo& info() { return shared_class().info(); }
   static Ref<Object> create(Platform&) { return make<AttributeOf>(); }
 };
-
-template <const SimpleAttributeSpec& Spec>
-constexpr ClassEntry attribute_entry() {
-  return {Spec.name, &AttributeOf<Spec>::info, &AttributeOf<Spec>::create};
-}
 
 }  // namespace vorlan

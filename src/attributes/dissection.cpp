@@ -44,6 +44,12 @@ std::vector<DissectedField> dissect(const RecordClass& record, std::string_view 
   for (const RecordLayout::Visit& visit : layout.visits()) {
     const RecordClass::Field& field = record.field(visit.field);
     DissectedField node = dissected_leaf(field.spec->name, field.spec->meaning, whole, shifted(visit.extent));
+    if (field.spec->inside != nullptr) {
+      const Extent* kind = layout.find(record.find(field.spec->kind), visit.at);
+      const std::size_t value = kind != nullptr ? small_value(slice(whole, shifted(*kind))) : 0;
+      node.below = field.spec->inside(value, whole, shifted(visit.extent));
+      if (!node.below.empty()) node.bits.clear();
+    }
     const RecordClass::Group& group = record.groups()[field.group];
     if (is_table(*field.spec) && group.end - group.first > 1) {
       node.name += bracketed(visit.at.inner);
@@ -84,7 +90,7 @@ std::vector<DissectedField> SimpleAttribute::dissect(std::string_view whole, Ext
     }
     return tree;
   }
-  tree.push_back(dissected_leaf("AttrValue", nullptr, whole, value));
+  tree.push_back(dissected_leaf("AttrValue", spec.meaning, whole, value));
   if (value.width != spec.value_bits) tree.back().note = "not as wide as the class says";
   return tree;
 }

@@ -6,17 +6,6 @@
 
 namespace vorlan {
 
-namespace {
-
-constexpr std::size_t kLengthBits = 8;
-
-/// Half to even, as numbers become integers.
-std::size_t rounded_octets(std::size_t bits) {
-  return static_cast<std::size_t>(round_to_long(static_cast<double>(bits) / 8));
-}
-
-}  // namespace
-
 SimpleAttribute::SimpleAttribute(const SimpleAttributeClass& attribute_class)
     : Attribute(attribute_class.info()),
       class_(attribute_class),
@@ -85,9 +74,8 @@ std::string SimpleAttribute::build(bool sixteen_bits) const {
   const std::string_view value = value_.view();
   if (class_.spec().up_to && value.empty()) return {};
   const std::string_view id = id_to_build(sixteen_bits);
-  // A value of variable width may leave a part of an octet.
   const std::size_t bits = id.size() + value.size();
-  const std::size_t octets = bits % 8 == 0 ? bits / 8 : rounded_octets(bits);
+  const std::size_t octets = octets_behind_length(bits);
   std::string record;
   record.reserve(kLengthBits + bits);
   record.append(ShortBits(static_cast<std::uint32_t>(octets), kLengthBits).view()).append(id).append(value);

@@ -51,7 +51,7 @@ std::vector<FieldInfo> SimpleAttributeClass::list_fields() const {
       {.name = member_name(AttributeMember::AttrValue),
        .width = spec_.up_to ? "up to " + value_width : std::move(value_width),
        .initial = std::string(value_.view()),
-       .unit = std::string(spec_.unit),
+       .unit = std::string(spec_.meaning != nullptr ? spec_.meaning->listed() : std::string_view()),
        .origin = flows_.empty() ? "set" : "set, at first by AttribId"},
   };
 }

@@ -6,6 +6,7 @@
 
 #include "attributes/flow_defaults.hpp"
 #include "attributes/short_bits.hpp"
+#include "codec/meaning.hpp"
 
 namespace vorlan {
 
@@ -20,10 +21,10 @@ enum class AttributeTexts : std::uint8_t {
 
 /// One class. An attribute record is Length (8 bits, the octets behind it), AttributeID and value.
 struct SimpleAttributeSpec {
-  std::string_view name;       ///< "SB_Mac_AttrFRABlow"
-  std::string_view summary;    ///< one line
-  std::string_view clause;     ///< of C.S0024
-  std::string_view unit = {};  ///< or codes, for listings
+  std::string_view name;             ///< "SB_Mac_AttrFRABlow"
+  std::string_view summary;          ///< one line
+  std::string_view clause;           ///< of C.S0024, or behind another document's name
+  const Meaning* meaning = nullptr;  ///< unit or codes of the value, for listings and dissection
 
   std::uint16_t id;             ///< of a per-flow attribute: the one of flow 0
   std::uint8_t id_bits = 16;    ///< 8 or 16
@@ -51,7 +52,9 @@ struct SimpleAttributeSpec {
 /// The first fault of a row as text; the empty text if there is none. Checked when the rows are compiled.
 constexpr std::string_view fault(const SimpleAttributeSpec& row) {
   const auto is_width = [](std::size_t bits) { return bits == 8 || bits == 16; };
-  if (!row.name.starts_with("SB_")) return "a class name begins with SB_";
+  if (!row.name.starts_with("SB_") || !row.name.substr(6).starts_with("_Attr")) {
+    return "a class name begins with SB_, three letters and _Attr";
+  }
   if (row.summary.empty() || row.clause.empty()) return "no summary or no clause";
   if (!is_width(row.id_bits) || !is_width(row.value_bits)) return "a width is 8 or 16";
   if ((row.id >> row.id_bits) != 0) return "an AttributeID wider than its width";

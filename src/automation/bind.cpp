@@ -12,6 +12,7 @@ std::vector<MemberInfo> describe(std::span<const BoundMember> table) {
     member.name = row.name;
     member.calls = row.method;
     member.gets = !row.method;
+    member.get_changes = row.get_changes;
     const bool object = row.type == ValueType::Object;
     member.lets = row.let != nullptr && !object;
     member.sets = row.let != nullptr && (object || row.type == ValueType::Any);

@@ -184,6 +184,9 @@ struct SignatureBase {
   using Class = C;
   using Result = std::remove_cvref_t<R>;
   static constexpr std::array<Parameter, sizeof...(Ps)> parameters{parameter<Ps>()...};
+  /// Whether a member function may change its object.
+  template <class Function>
+  static constexpr bool changes = !std::is_invocable_v<Function, const C&, Ps...>;
 
   template <auto Function>
   static Value call(ClassObject& object, std::span<Value> arguments) {
@@ -228,6 +231,7 @@ struct BoundMember {
   Call get = nullptr;  ///< or call, of a method
   Call let = nullptr;  ///< Let and Set
   bool method = false;
+  bool get_changes = false;
 };
 
 template <auto Function>
@@ -243,7 +247,7 @@ constexpr BoundMember method(std::string_view name, std::string_view parameter_n
           true};
 }
 
-/// A read-only property.
+/// A read-only property. Its getter is const, unless reading it changes something.
 template <auto Getter>
 constexpr BoundMember property(std::string_view name, std::string_view summary, std::string_view parameter_names = {}) {
   using S = binding::Signature<decltype(Getter)>;
@@ -254,7 +258,8 @@ constexpr BoundMember property(std::string_view name, std::string_view summary, 
           binding::Convert<typename S::Result>::type,
           &S::template call<Getter>,
           nullptr,
-          false};
+          false,
+          S::template changes<decltype(Getter)>};
 }
 
 /// A property that can be read and written; the setter takes the getter's parameters and the value.

@@ -38,6 +38,24 @@ std::size_t MemberInfo::required_parameters() const noexcept {
   return static_cast<std::size_t>(optional - parameters.begin());
 }
 
+ErrorInfo error_info(const Error& error, std::string_view when) {
+  return {error.source(), error.description(), std::string(when), error.number()};
+}
+
+std::string ClassInfo::defined_in() const {
+  std::string_view clause = texts_.clause;
+  if (clause.empty()) return {};
+  std::string document = "C.S0024";
+  const std::size_t space = clause.find(' ');
+  // "8.7" and "400-C 2.6" are of C.S0024; "C.S0029" and "C.S0029 3.2" are not.
+  const bool named = clause.front() < '0' || clause.front() > '9';
+  if (named || space != std::string_view::npos) {
+    document = std::string(named ? "" : "C.S0024-").append(clause.substr(0, space));
+    clause.remove_prefix(space == std::string_view::npos ? clause.size() : space + 1);
+  }
+  return clause.empty() ? document : document.append(" clause ").append(clause);
+}
+
 ClassInfo::ClassInfo(Texts texts, std::vector<MemberInfo> members, std::vector<FieldInfo> fields,
                      std::vector<ErrorInfo> errors)
     : texts_(texts),

@@ -12,6 +12,8 @@
 
 namespace vorlan {
 
+class Error;
+
 struct ParameterInfo {
   std::string_view name;
   ValueType type = ValueType::Any;
@@ -26,6 +28,7 @@ struct MemberInfo {
   bool lets = false;
   bool sets = false;
   bool calls = false;
+  bool get_changes = false;         ///< reading it changes something: it is not read only to be shown
   ValueType type = ValueType::Any;  ///< of the property, or of the method's result (Empty: none)
   std::vector<ParameterInfo> parameters;
   std::string summary;
@@ -45,12 +48,14 @@ struct FieldInfo {
   std::string origin;     ///< "set", "configuration", "constant", "received"
 };
 
-/// A text that a class raises on purpose.
+/// An error that a class raises. "<...>" in a text stands for what the call decides.
 struct ErrorInfo {
   std::string source;
   std::string description;
   std::string when;
+  std::int32_t number = 1;  ///< 1: raised on purpose; others are those of the automation rules
 };
+ErrorInfo error_info(const Error& error, std::string_view when);
 
 /// What the registry knows of a class. Immutable once made.
 class ClassInfo {
@@ -58,7 +63,7 @@ class ClassInfo {
   struct Texts {
     std::string_view name;     ///< "SB_Ses_MsgSessionClose"
     std::string_view summary;  ///< one line
-    std::string_view clause;   ///< of C.S0024, where it defines the thing
+    std::string_view clause;   ///< where the thing is defined: of C.S0024, or behind another document's name
   };
 
   ClassInfo(Texts texts, std::vector<MemberInfo> members, std::vector<FieldInfo> fields = {},
@@ -67,6 +72,8 @@ class ClassInfo {
   [[nodiscard]] std::string_view name() const noexcept { return texts_.name; }
   [[nodiscard]] std::string_view summary() const noexcept { return texts_.summary; }
   [[nodiscard]] std::string_view clause() const noexcept { return texts_.clause; }
+  /// "C.S0024 clause 7.2.6.2.1", "C.S0024-400-C clause 2.6", "C.S0063-A"; empty where the clause is.
+  [[nodiscard]] std::string defined_in() const;
   [[nodiscard]] std::span<const MemberInfo> members() const noexcept { return members_; }
   [[nodiscard]] std::span<const FieldInfo> fields() const noexcept { return fields_; }
   [[nodiscard]] std::span<const ErrorInfo> errors() const noexcept { return errors_; }

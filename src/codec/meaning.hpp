@@ -21,6 +21,8 @@ struct Meaning {
   std::span<const Code> codes = {};
   std::string (*text)(std::string_view bits) = nullptr;
   std::string_view summary = {};  ///< for listings, where the unit does not say it all
+
+  [[nodiscard]] constexpr std::string_view listed() const noexcept { return summary.empty() ? unit : summary; }
 };
 
 /// "-7 dB", "normal"; the empty text where the meaning does not cover the value.

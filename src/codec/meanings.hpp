@@ -27,8 +27,12 @@ inline constexpr Meaning kSlots{.unit = "slots"};
 inline constexpr Meaning kFrames{.unit = "frames"};
 inline constexpr Meaning kMinutes{.unit = "minutes", .is_signed = true};
 inline constexpr Meaning kSeconds{.unit = "s"};
+inline constexpr Meaning kMilliseconds{.unit = "ms"};
 inline constexpr Meaning kPilotPN{.unit = "chips", .scale = 64, .summary = "PN offset, 64 chips"};
 inline constexpr Meaning kMinusHalfDb{.unit = "dB", .scale = -0.5, .summary = "-0.5 dB"};
+inline constexpr Meaning kQuarterDb{.unit = "dB", .scale = 0.25, .summary = "0.25 dB"};
+inline constexpr Meaning kSignedQuarterDb{
+    .unit = "dB", .scale = 0.25, .is_signed = true, .summary = "0.25 dB, two's complement"};
 inline constexpr Meaning kSignedHalfDb{
     .unit = "dB", .scale = 0.5, .is_signed = true, .summary = "0.5 dB, two's complement"};
 inline constexpr Meaning kSignedHalfDbm{

@@ -222,7 +222,7 @@ void Message::check_width(std::size_t field, std::size_t index, std::string_view
   if (!right) raise(spec, Fault::WrongLength);
   const auto printable = [](char c) { return c >= ' ' && c <= '~'; };
   if (!std::all_of(value.begin(), value.end(), printable)) {
-    throw Error(ErrorNumber::TypeMismatch, source_of(class_.spec(), spec, Fault::WrongLength), "a bit string wanted");
+    throw Error(ErrorNumber::TypeMismatch, source_of(class_.spec(), spec, Fault::WrongLength), kNoBitString);
   }
   if (spec.check != nullptr) spec.check(*this, index, value);
 }

@@ -113,6 +113,9 @@ class MessageClass {
 /// The kinds of error that rows have texts for.
 enum class Fault : std::uint8_t { WrongLength, EncoderMode, BeyondCount, GetBeyondCount, NotSet, Absent };
 
+/// Behind the description of error 13, when a setter takes a text that is none.
+inline constexpr std::string_view kNoBitString = "a bit string wanted";
+
 std::string source_of(const MessageSpec& message, std::string_view member);
 std::string source_of(const MessageSpec& message, const FieldSpec& field, Fault fault);
 std::string_view text_of(const MessageSpec& message, const FieldSpec& field, Fault fault);

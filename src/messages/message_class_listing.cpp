@@ -1,4 +1,5 @@
-// What listings show of a message's rows: fields with width and condition, and the texts it raises.
+// What listings show of a message's rows: fields with width and condition, and the errors it raises.
+#include "automation/error.hpp"
 #include "codec/member_name.hpp"
 #include "messages/message_class.hpp"
 
@@ -70,7 +71,7 @@ std::vector<FieldInfo> MessageClass::list_fields() const {
     if (!spec.same_as.empty())
       info.condition += (info.condition.empty() ? "" : ", ") + ("the same as " + std::string(bare_name(spec.same_as)));
     if (spec_->builds() && (is_stored(spec) || spec.constant)) info.initial = field.initial;
-    if (spec.meaning != nullptr) info.unit = spec.meaning->summary.empty() ? spec.meaning->unit : spec.meaning->summary;
+    if (spec.meaning != nullptr) info.unit = spec.meaning->listed();
     list.push_back(std::move(info));
   }
   return list;
@@ -85,8 +86,14 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
   if (message.builds()) {
     add(message.create_source.empty() ? source_of(message, "CreateMessage") : std::string(message.create_source),
         message.not_initialized, "CreateMessage before Initialize");
+    list.push_back(
+        error_info(Error(ErrorNumber::ObjectNotSet, source_of(message, "CreateMessage")), "CreateMessage of Nothing"));
+    list.push_back(error_info(Error(ErrorNumber::Overflow, source_of(message, "CreateMessage")),
+                              "CreateMessage of more than 32767 bits"));
   }
   if (message.parses()) {
+    list.push_back(
+        error_info(Error(ErrorNumber::ObjectNotSet, source_of(message, "PRobj_MessageObject")), "set to Nothing"));
     if (!message.string_unchecked) {
       add(message.string_source.empty() ? source_of(message, "PRstr_MessageString")
                                         : std::string(message.string_source),
@@ -107,14 +114,24 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
                                         {Fault::WrongLength, "let of another width"}};
   static constexpr Kind kOfGetters[] = {{Fault::GetBeyondCount, "get with an index beyond the count"},
                                         {Fault::Absent, "get of what the received message does not carry"}};
+  bool any_set = false;
+  const auto add_fault = [&](const FieldSpec& field, const Kind& kind) {
+    const bool of_index = kind.fault == Fault::BeyondCount || kind.fault == Fault::GetBeyondCount;
+    if (of_index && !is_repeated(field)) return;
+    const std::string_view text = text_of(message, field, kind.fault);
+    std::string source = source_of(message, field, kind.fault);
+    if (of_index && text.empty()) {
+      list.push_back(error_info(Error(ErrorNumber::SubscriptOutOfRange, source), kind.when));
+    } else {
+      add(std::move(source), text, kind.when);
+    }
+  };
   for (const FieldSpec& field : message.fields) {
     if (!is_property(field)) continue;
     const bool settable = is_stored(field) || !field.same_as.empty();
     if (message.builds() && settable && field.exposure != Exposure::GetOnly) {
-      for (const Kind& kind : kOfSetters) {
-        if (kind.fault == Fault::BeyondCount && !is_repeated(field)) continue;
-        add(source_of(message, field, kind.fault), text_of(message, field, kind.fault), kind.when);
-      }
+      for (const Kind& kind : kOfSetters) add_fault(field, kind);
+      any_set = true;
     }
     if (!field.too_few.empty()) {
       std::string_view source = message.check_source.empty() ? message.create_source : message.check_source;
@@ -123,14 +140,15 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
       add(source.empty() ? source_of(message, "CreateMessage") : std::string(source), text,
           "CreateMessage with " + std::string(bare_name(field.name)) + " not as its count says");
     }
-    for (const Kind& kind : kOfGetters) {
-      if (kind.fault == Fault::GetBeyondCount && !is_repeated(field)) continue;
-      add(source_of(message, field, kind.fault), text_of(message, field, kind.fault), kind.when);
-    }
+    for (const Kind& kind : kOfGetters) add_fault(field, kind);
     if (!message.builds()) {
       add(source_of(message, field, Fault::NotSet), text_of(message, field, Fault::NotSet),
           "get before a message is received");
     }
+  }
+  if (any_set) {
+    list.push_back(error_info(Error(ErrorNumber::TypeMismatch, source_of(message, "<property>"), kNoBitString),
+                              "let of a text with control or non-ASCII characters"));
   }
   return list;
 }

@@ -1,65 +1,57 @@
 // Value records with counts and lengths, nested ones, and QoS profiles.
 #include <gtest/gtest.h>
 
+#include "attributes/bits.hpp"
 #include "attributes/values/con_values.hpp"
-#include "common/conversions.hpp"
 #include "support/message_cases.hpp"
 #include "support/octets.hpp"
 
 namespace vorlan::test {
 namespace {
 
-std::string number(std::size_t value, std::size_t bits) {
-  return long_to_bin(static_cast<std::int32_t>(value), static_cast<int>(bits));
-}
-
-struct ListCase {
-  std::string_view name;
-  std::string_view count;
-  std::string_view record;  // with two elements
-  std::string_view member;
-  std::string_view second;  // of its elements
-};
-
 TEST(Value, CountedListsKeepTheirElementsTogether) {
-  constexpr ListCase kCases[] = {
+  constexpr struct {
+    std::string_view name, count;
+    std::string_view record;  // with two elements
+    std::string_view member;
+    std::string_view second;  // of its elements, hexadecimal
+  } kCases[] = {
       {"SB_Con_ValPagingMask", "PRstr_MaskCount", "01 02 0A00010002 0003 0B00040005 0006", "PRstr_MaskDuration",
-       "0000000000000101"},
+       "0005"},
       {"SB_App_ValANSupportedQoSProfiles", "PRstr_QoSProfileCount", "01 02 0202ABCD 0203123456", "PRstr_ProfileValue",
-       "000100100011010001010110"},
-      {"SB_App_ValFlowNNReservationFwd", "PRstr_ReservationCount", "01 02 FF 12", "PRstr_ReservationLabel", "00010010"},
-      {"SB_App_ValSupportedHigherLayerPro", "PRstr_ProtocolCount", "01 02 FF 12", "PRstr_ProtocolIdentifier",
-       "00010010"},
+       "123456"},
+      {"SB_App_ValFlowNNReservationFwd", "PRstr_ReservationCount", "01 02 FF 12", "PRstr_ReservationLabel", "12"},
+      {"SB_App_ValSupportedHigherLayerPro", "PRstr_ProtocolCount", "01 02 FF 12", "PRstr_ProtocolIdentifier", "12"},
       // 9 and 8 bits: 000000011 00001111, 000000100 11110000
-      {"SB_MAC_ValAssociatedFlowsNN", "PRstr_FlowCnt", "01 02 0187 813C 00", "PRstr_SubStream", "11110000"},
+      {"SB_MAC_ValAssociatedFlowsNN", "PRstr_FlowCnt", "01 02 0187 813C 00", "PRstr_SubStream", "F0"},
   };
-  for (const ListCase& row : kCases) {
-    SCOPED_TRACE(row.name);
+  for_every(kCases, [](const auto& row) {
+    const std::string second = bits_of(row.second);
     const Ref<Object> value = create(row.name);
     const std::string record = bits_of(row.record);
     value->let("PRstr_ValString", record);
-    EXPECT_EQ(value->get(row.member, std::int32_t{1}).to_text(), row.second);
-    for (const std::int32_t beyond : {2, -1}) EXPECT_EQ(error_number([&] { value->get(row.member, beyond); }), 9);
-    EXPECT_EQ(value->call("GetValLengthAt", record + record, std::int32_t{1}).to_integer(), record.size());
+    EXPECT_EQ(value->get(row.member, 1).to_text(), second);
+    for (const int beyond : {2, -1}) EXPECT_EQ(error_number([&] { value->get(row.member, beyond); }), 9);
+    EXPECT_EQ(value->call("GetValLengthAt", record + record, 1).to_integer(), record.size());
     // A count that promises more than there is, up to the highest.
     for (const std::string_view promised : {"00000011", "11111111"}) {
       std::string wrong = record;
       wrong.replace(8, 8, promised);
       EXPECT_EQ(error_number([&] { value->let("PRstr_ValString", wrong); }), 1);
-      EXPECT_EQ(error_number([&] { value->call("GetValLengthAt", wrong, std::int32_t{1}); }), 1);
+      EXPECT_EQ(error_number([&] { value->call("GetValLengthAt", wrong, 1); }), 1);
     }
     EXPECT_EQ(value->get("PRstr_ValString").to_text(), record);
 
     // Setting a count makes room; what was set stays.
     const Ref<Object> sender = create(row.name);
     sender->let(row.count, "00000010");
-    if (row.name == "SB_App_ValANSupportedQoSProfiles") sender->let("PRstr_ProfileLength", std::int32_t{1}, "00000011");
-    sender->let(row.member, std::int32_t{1}, row.second);
-    EXPECT_EQ(error_number([&] { sender->let(row.member, std::int32_t{2}, row.second); }),
+    if (row.name == "SB_App_ValANSupportedQoSProfiles") sender->let("PRstr_ProfileLength", 1, "00000011");
+    sender->let(row.member, 1, second);
+    EXPECT_EQ(error_number([&] { sender->let(row.member, 2, second); }),
               row.name == "SB_App_ValANSupportedQoSProfiles" ? 1 : 9);
     sender->let(row.count, "00000011");
-    EXPECT_EQ(sender->get(row.member, std::int32_t{1}).to_text(), row.second);
-  }
+    EXPECT_EQ(sender->get(row.member, 1).to_text(), second);
+  });
 }
 
 TEST(Value, NestedLengthsMustEndWithinTheRecord) {
@@ -90,7 +82,7 @@ TEST(Value, NestedLengthsMustEndWithinTheRecord) {
   for (const auto& row : kCases) {
     const Ref<Object> value = create(row.name);
     const std::string record = bits_of(row.record);
-    const auto length = [&] { return value->call("GetValLengthAt", record, std::int32_t{1}).to_integer(); };
+    const auto length = [&] { return value->call("GetValLengthAt", record, 1).to_integer(); };
     if (row.length != 0) {
       EXPECT_EQ(length(), row.length) << row.name << " " << row.record;
       value->let("PRstr_ValString", record);
@@ -100,8 +92,8 @@ TEST(Value, NestedLengthsMustEndWithinTheRecord) {
     }
   }
   const Ref<Object> value = create("SB_App_ValMaxRLPFlows");
-  EXPECT_EQ(error_number([&] { value->call("GetValLengthAt", bits_of("0000000000"), std::int32_t{0}); }), 5);
-  EXPECT_EQ(error_number([&] { value->call("GetValLengthAt", bits_of("0000000000"), std::int32_t{400}); }), 1);
+  EXPECT_EQ(error_number([&] { value->call("GetValLengthAt", bits_of("0000000000"), 0); }), 5);
+  EXPECT_EQ(error_number([&] { value->call("GetValLengthAt", bits_of("0000000000"), 400); }), 1);
 }
 
 TEST(Value, SupportedChannelsAreNested) {
@@ -109,21 +101,12 @@ TEST(Value, SupportedChannelsAreNested) {
   value.let<"PRstr_ValueId">("00000001");
   value.let<"PRstr_BandClassCount">("00000010");
   for (const std::size_t band : {0U, 1U}) {
-    value.let<"PRstr_BandClass">({band, 0}, number(band + 5, 5));
-    value.let<"PRstr_BandSubClassCount">({band, 0}, number(2 - band, 8));
-    for (std::size_t i = 0; i < 2 - band; ++i) value.let<"PRstr_BandSubClass">({band, i}, number(16 * band + i + 1, 8));
+    value.let<"PRstr_BandClass">({band, 0}, bits_of(band + 5, 5));
+    value.let<"PRstr_BandSubClassCount">({band, 0}, bits_of(2 - band, 8));
+    for (std::size_t i = 0; i < 2 - band; ++i)
+      value.let<"PRstr_BandSubClass">({band, i}, bits_of(16 * band + i + 1, 8));
   }
-  const std::string bits =
-      "00000001"
-      "00000010"
-      "00101"
-      "00000010"
-      "00000001"
-      "00000010"
-      "00110"
-      "00000001"
-      "00010001";
-  EXPECT_EQ(value.build(), bits + std::string((8 - bits.size() % 8) % 8, '0'));
+  EXPECT_EQ(value.build(), filled_up(bits_of("01 02") + "00101" + bits_of("02 01 02") + "00110" + bits_of("01 11")));
   EXPECT_EQ(error_number([&] { value.let<"PRstr_BandSubClass">({1, 1}, "00000000"); }), 9);
 
   const Ref<Object> attribute = create("SB_Con_AttrSuppCDMAChannels");
@@ -147,60 +130,45 @@ TEST(Value, QoSProfileOfAttributeSets) {
   request->let("PRstr_QoSAttribSetCount", "010");
   for (std::int32_t i = 0; i < 2; ++i) {
     request->let("PRstr_QoSAttribSetLength", i, "0100");
-    request->let("PRstr_QoSAttribSetID", i, number(static_cast<std::size_t>(i) + 1, 7));
-    request->let("PRstr_QoSAttribSetProfileID", i, number(0x0500U + static_cast<std::size_t>(i), 16));
+    request->let("PRstr_QoSAttribSetID", i, bits_of(static_cast<std::size_t>(i) + 1, 7));
+    request->let("PRstr_QoSAttribSetProfileID", i, bits_of(0x0500U + static_cast<std::size_t>(i), 16));
   }
   request->call("ProfileSet");
   // 1001 010, 0100 0000001 0 0000010100000000 and 5 to the octet; 0100 0000010 0 0000010100000001 and 4
-  const std::string profile =
-      "1001010"
-      "0100"
-      "0000001"
-      "0"
-      "0000010100000000"
-      "00000"
-      "0100"
-      "0000010"
-      "0"
-      "0000010100000001"
-      "0000";
+  const std::string first = "0100" + bits_of(1, 7) + "0" + bits_of("0500") + "00000";
+  const std::string second = "0100" + bits_of(2, 7) + "0" + bits_of("0501") + "0000";
+  const std::string profile = "1001010" + first + second;
   EXPECT_EQ(request->get("PRstr_ProfileValue").to_text(), profile);
-  EXPECT_EQ(request->call("BuildValueRecord").to_text(), bits_of("00 01") + number(profile.size() / 8, 8) + profile);
+  EXPECT_EQ(request->call("BuildValueRecord").to_text(), bits_of("00 01") + bits_of(profile.size() / 8, 8) + profile);
 
   const Ref<Object> received = create("SB_App_ValReservationKKQoSReqRev");
   received->let("PRstr_ValString", request->call("BuildValueRecord"));
   received->call("Decode_ProfileType1");
   EXPECT_EQ(received->get("PRstr_FlowPriority").to_text(), "1001");
   EXPECT_EQ(received->get("PRstr_QoSAttribSetCount").to_text(), "010");
-  EXPECT_EQ(received->get("PRstr_QoSAttribSetID", std::int32_t{1}).to_text(), "0000010");
-  EXPECT_EQ(received->get("PRstr_QoSAttribSetLength", std::int32_t{1}).to_text(), "0100");
-  EXPECT_EQ(received->get("PRstr_QoSAttribSetProfileID", std::int32_t{1}).to_text(), "0000010100000001");
-  EXPECT_EQ(received->get("PRstr_ReserveBits", std::int32_t{0}).to_text(), "00000");
-  EXPECT_EQ(received->get("PRstr_ReserveBits", std::int32_t{1}).to_text(), "0000");
-  EXPECT_EQ(error_number([&] { received->get("PRstr_QoSAttribSetID", std::int32_t{2}); }), 9);
+  EXPECT_EQ(received->get("PRstr_QoSAttribSetID", 1).to_text(), "0000010");
+  EXPECT_EQ(received->get("PRstr_QoSAttribSetLength", 1).to_text(), "0100");
+  EXPECT_EQ(received->get("PRstr_QoSAttribSetProfileID", 1).to_text(), "0000010100000001");
+  EXPECT_EQ(received->get("PRstr_ReserveBits", 0).to_text(), "00000");
+  EXPECT_EQ(received->get("PRstr_ReserveBits", 1).to_text(), "0000");
+  EXPECT_EQ(error_number([&] { received->get("PRstr_QoSAttribSetID", 2); }), 9);
 
   // Cut off in the second set, and of another type: what was decoded stays.
   for (const std::string& wrong :
        {bits_of("00 01 05") + profile.substr(0, 40), bits_of("00 02 02 0500"), bits_of("00 00")}) {
     received->let("PRstr_ValString", wrong);
     EXPECT_EQ(error_number([&] { received->call("Decode_ProfileType1"); }), 1);
-    EXPECT_EQ(received->get("PRstr_QoSAttribSetID", std::int32_t{1}).to_text(), "0000010");
+    EXPECT_EQ(received->get("PRstr_QoSAttribSetID", 1).to_text(), "0000010");
   }
 }
 
 TEST(Value, VerboseAttributeSetsAreOnlyDecoded) {
   // One set of 12 octets, verbose: 1001 001 1100 0000101 1, class 3, rates 16 each, 8, 8 and 1 bit, 6 to the octet
-  const std::string set =
-      "1001"
-      "001"
-      "1100"
-      "0000101"
-      "1"
-      "011" +
-      number(1, 16) + number(2, 16) + number(3, 16) + number(4, 8) + number(5, 8) + "1";
-  const std::string profile = set + std::string((8 - set.size() % 8) % 8, '0');
+  const std::string set = "1001001" + bits_of(0xC, 4) + bits_of(5, 7) + "1" + "011" + bits_of(1, 16) + bits_of(2, 16) +
+                          bits_of(3, 16) + bits_of(4, 8) + bits_of(5, 8) + "1";
+  const std::string profile = filled_up(set);
   const Ref<Object> request = create("SB_App_ValReservationKKQoSReqRev");
-  request->let("PRstr_ValString", bits_of("07 01") + number(profile.size() / 8, 8) + profile);
+  request->let("PRstr_ValString", bits_of("07 01") + bits_of(profile.size() / 8, 8) + profile);
   request->call("Decode_ProfileType1");
   EXPECT_EQ(request->get("PRstr_QoSAttribSetID").to_text(), "0000101");
   EXPECT_EQ(request->get("PRstr_QoSAttribSetVerbose").to_text(), "1");

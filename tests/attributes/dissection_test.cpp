@@ -91,7 +91,8 @@ TEST(AttributeListing, HoldsWhatIsRaised) {
   struct Case {
     std::string_view name, member, argument;
   };
-  constexpr Case kCases[] = {
+  const std::string kTooLong(254 * 8, '0');  // with the AttributeID 256 octets
+  const Case kCases[] = {
       {"SB_MsgConfigurationRequest", "PRint_AttributeCount", "<AttributeID>"},
       {"SB_MsgConfigurationRequest", "GetFlowNumber", "0"},
       {"SB_MsgConfigurationRequest", "ReturnAttributeRecord", "0"},
@@ -99,6 +100,8 @@ TEST(AttributeListing, HoldsWhatIsRaised) {
       {"SB_MsgConfigurationResponse", "PRstr_ValId", "1"},
       {"SB_MsgConfigurationResponse", "PRstr_AttrVal", "1"},
       {"SB_App_ValReservationKKQoSReqFwd", "Decode_ProfileType1", {}},
+      {"SB_App_ValReservationKKQoSReqFwd", "PRstr_QoSAttribSetID", "7"},
+      {"SB_App_AttrReservationKKQoSReqFwd", "BuildAttribute", kTooLong},
   };
   for (const Case& row : kCases) {
     const Ref<Object> object = create(row.name);
@@ -110,7 +113,8 @@ TEST(AttributeListing, HoldsWhatIsRaised) {
     const auto errors = object->class_info()->errors();
     EXPECT_TRUE(std::any_of(errors.begin(), errors.end(),
                             [&](const ErrorInfo& error) {
-                              return error.source == raised.source && error.description == raised.description;
+                              return error.number == raised.number && error.source == raised.source &&
+                                     error.description == raised.description;
                             }))
         << row.member << ": " << raised.description;
   }

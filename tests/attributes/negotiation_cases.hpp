@@ -7,13 +7,15 @@
 
 namespace vorlan::test {
 
+inline constexpr std::string_view kWithAttr = "*";
+
 struct GetterCase {
   std::string_view name;  // without PRobj_
   std::uint16_t id;       // searched
   std::uint8_t id_bits;
   std::string_view returned;   // the class without SB_
   std::uint8_t value_bits;     // that its records take behind the AttributeID; 0: value records, as many as there are
-  std::string_view text = {};  // what errors call it; none: the name without Attr
+  std::string_view text = {};  // what errors call it; none: the name without Attr; kWithAttr: with it
   std::string_view source = {};
 };
 
@@ -66,30 +68,22 @@ inline constexpr GetterCase kRequestCases[] = {
     {"AttrProtocolTypeATSupportedApplicationSubTypes", 0x1001, 16, "Ses_AttrProtocolType", 16},
     {"AttrMaxReservations", 0x0005, 16, "App_AttrMaxReservations", 0},
     {"SmallSlotCyleAllowed", 0xFF, 8, "Con_AttrSmallSlotCycleAllowed", 8, "SlottedMode"},
-    {"AttrFlowNNActivatedFwd", 0xF300, 16, "App_AttrFlowNNActivatedFwd", 8, "AttrFlowNNActivatedFwd"},
-    {"AttrFlowNNActivatedRev", 0xF200, 16, "App_AttrFlowNNActivatedRev", 8, "AttrFlowNNActivatedRev"},
-    {"AttrFlowNNFlowProtocolPDUFwd", 0xEF00, 16, "App_AttrFlowNNFlowProtocolPDUFwd", 8, "AttrFlowNNFlowProtocolPDUFwd"},
-    {"AttrFlowNNFlowProtocolPDURev", 0xEE00, 16, "App_AttrFlowNNFlowProtocolPDURev", 8, "AttrFlowNNFlowProtocolPDURev"},
-    {"AttrFlowNNRouteProtocolPDUFwd", 0xEB00, 16, "App_AttrFlwNNRoutePrtclPDUFwd", 8, "AttrFlowNNRouteProtocolPDUFwd"},
-    {"AttrFlowNNRouteProtocolPDURev", 0xEA00, 16, "App_AttrFlwNNRoutePrtclPDURev", 8, "AttrFlowNNRouteProtocolPDURev"},
-    {"AttrATSupportedFlowProtocolParametersPP", 0x0F00, 16, "App_AttrATSuppFlwProtlPrmPP", 0,
-     "AttrATSupportedFlowProtocolParametersPP"},
-    {"AttrATSupportedRouteProtocolParametersPP", 0x1000, 16, "App_AttrATSuppRutProtlPrmPP", 0,
-     "AttrATSupportedRouteProtocolParametersPP"},
-    {"AttrFlowNNFlowProtocolParametersFwd", 0x0B00, 16, "App_AttrFlowNNFlwPrtclParmFwd", 0,
-     "AttrFlowNNFlowProtocolParametersFwd"},
-    {"AttrFlowNNFlowProtocolParametersRev", 0x0C00, 16, "App_AttrFlowNNFlwPrtclParmRev", 0,
-     "AttrFlowNNFlowProtocolParametersRev"},
-    {"AttrFlowNNRouteProtocolParametersFwd", 0x0D00, 16, "App_AttrFlowNNRutPrtclParmFwd", 0,
-     "AttrFlowNNRouteProtocolParametersFwd"},
-    {"AttrFlowNNRouteProtocolParametersRev", 0x0E00, 16, "App_AttrFlowNNRutPrtclParmRev", 0,
-     "AttrFlowNNRouteProtocolParametersRev"},
-    {"AttrFlowNNSimultaneousDeliveryOnBothRoutesFwd", 0xE900, 16, "App_AttrFlwNNSmlDlvyOBthRtsFwd", 8,
-     "AttrFlowNNSimultaneousDeliveryOnBothRoutesFwd"},
-    {"AttrFlowNNOutOfOrderDeliveryToRouteProtocolFwd", 0xE800, 16, "App_AttrFlwNNOOOrdDlryTRtPtlFwd", 8,
-     "AttrFlowNNOutOfOrderDeliveryToRouteProtocolFwd"},
-    {"AttrFlowNNNakDelayTimeFwd", 0xE700, 16, "App_AttrFlowNNNakDelayTimeFwd", 8, "AttrFlowNNNakDelayTimeFwd"},
-    {"AttrMaxLinkFlows", 0x0004, 16, "App_AttrMaxLinkFlows", 0, "AttrMaxLinkFlows"},
+    {"AttrFlowNNActivatedFwd", 0xF300, 16, "App_AttrFlowNNActivatedFwd", 8, kWithAttr},
+    {"AttrFlowNNActivatedRev", 0xF200, 16, "App_AttrFlowNNActivatedRev", 8, kWithAttr},
+    {"AttrFlowNNFlowProtocolPDUFwd", 0xEF00, 16, "App_AttrFlowNNFlowProtocolPDUFwd", 8, kWithAttr},
+    {"AttrFlowNNFlowProtocolPDURev", 0xEE00, 16, "App_AttrFlowNNFlowProtocolPDURev", 8, kWithAttr},
+    {"AttrFlowNNRouteProtocolPDUFwd", 0xEB00, 16, "App_AttrFlwNNRoutePrtclPDUFwd", 8, kWithAttr},
+    {"AttrFlowNNRouteProtocolPDURev", 0xEA00, 16, "App_AttrFlwNNRoutePrtclPDURev", 8, kWithAttr},
+    {"AttrATSupportedFlowProtocolParametersPP", 0x0F00, 16, "App_AttrATSuppFlwProtlPrmPP", 0, kWithAttr},
+    {"AttrATSupportedRouteProtocolParametersPP", 0x1000, 16, "App_AttrATSuppRutProtlPrmPP", 0, kWithAttr},
+    {"AttrFlowNNFlowProtocolParametersFwd", 0x0B00, 16, "App_AttrFlowNNFlwPrtclParmFwd", 0, kWithAttr},
+    {"AttrFlowNNFlowProtocolParametersRev", 0x0C00, 16, "App_AttrFlowNNFlwPrtclParmRev", 0, kWithAttr},
+    {"AttrFlowNNRouteProtocolParametersFwd", 0x0D00, 16, "App_AttrFlowNNRutPrtclParmFwd", 0, kWithAttr},
+    {"AttrFlowNNRouteProtocolParametersRev", 0x0E00, 16, "App_AttrFlowNNRutPrtclParmRev", 0, kWithAttr},
+    {"AttrFlowNNSimultaneousDeliveryOnBothRoutesFwd", 0xE900, 16, "App_AttrFlwNNSmlDlvyOBthRtsFwd", 8, kWithAttr},
+    {"AttrFlowNNOutOfOrderDeliveryToRouteProtocolFwd", 0xE800, 16, "App_AttrFlwNNOOOrdDlryTRtPtlFwd", 8, kWithAttr},
+    {"AttrFlowNNNakDelayTimeFwd", 0xE700, 16, "App_AttrFlowNNNakDelayTimeFwd", 8, kWithAttr},
+    {"AttrMaxLinkFlows", 0x0004, 16, "App_AttrMaxLinkFlows", 0, kWithAttr},
 };
 
 inline constexpr GetterCase kUpdateCases[] = {

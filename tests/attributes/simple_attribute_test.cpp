@@ -2,37 +2,27 @@
 #include <gtest/gtest.h>
 
 #include "attributes/app_simple_attributes.hpp"
+#include "attributes/bits.hpp"
 #include "attributes/con_ses_simple_attributes.hpp"
 #include "attributes/mac_simple_attributes.hpp"
 #include "support/message_cases.hpp"
+#include "support/octets.hpp"
 
 namespace vorlan::test {
 namespace {
 
-TEST(SimpleAttribute, ReadsFromTheReceivedRecordForLife) {
+TEST(SimpleAttribute, IsAClassOfItsOwnInCpp) {
   SB_Mac_AttrFRABlow attribute;
-  attribute.let<"PRstr_Attribute">("00000011111111111111110111110000");
-  attribute.let<"PRstr_AttrValue">("00001111");
+  attribute.let<"PRstr_Attribute">(bits_of("03 FFFD F0"));
   attribute.let<"PRstr_Length">("00000000");
-  EXPECT_EQ(raised_by([&] { attribute.let<"PRstr_Attribute">(std::string(31, '0')); }),
-            (Raised{1, "SB_Mac_AttrFRABlow.PRstr_Attribute", "Error: Length of Attribute String should be 32."}));
-  EXPECT_EQ(attribute.get<"PRstr_Attribute">(), "00000011111111111111110111110000");
+  EXPECT_EQ(attribute.get<"PRstr_Attribute">(), bits_of("03 FFFD F0"));
   EXPECT_EQ(attribute.get<"PRstr_Length">(), "00000011");
   EXPECT_EQ(attribute.get<"PRstr_AttribId">(), "1111111111111101");
   EXPECT_EQ(attribute.get<"PRstr_AttrValue">(), "11110000");
-  EXPECT_EQ(attribute.build(),
-            "00000011"
-            "1111111111111101"
-            "00001111")
-      << "what was set, not what was received";
 }
 
 TEST(SimpleAttribute, CutsOffWhatAReceivedRecordLacks) {
-  const std::string whole =
-      "00000011"
-      "11111111"
-      "0000000000000001"
-      "1111";
+  const std::string whole = bits_of("03 FF 0001 F");
   for (const std::size_t length : {0U, 5U, 8U, 11U, 16U, 25U, 32U, 36U}) {
     SB_Mac_AttrDRCGating attribute;
     attribute.receive(whole.substr(0, length));
@@ -45,14 +35,12 @@ TEST(SimpleAttribute, CutsOffWhatAReceivedRecordLacks) {
   }
 }
 
-struct FlowCase {
-  std::string_view name;
-  std::uint16_t id;
-  std::uint8_t value;
-};
-
 TEST(SimpleAttribute, TakesTheValueOfItsFlow) {
-  constexpr FlowCase kCases[] = {
+  constexpr struct {
+    std::string_view name;
+    std::uint16_t id;
+    std::uint8_t value;
+  } kCases[] = {
       {"SB_App_AttrFlowNNActivatedFwd", 0xF300, 1},    {"SB_App_AttrFlowNNActivatedFwd", 0xF301, 1},
       {"SB_App_AttrFlowNNActivatedFwd", 0xF302, 0},    {"SB_App_AttrFlowNNActivatedFwd", 0x0001, 0},
       {"SB_App_AttrFlowNNActivatedRev", 0xF200, 1},    {"SB_App_AttrFlowNNActivatedRev", 0xF201, 1},
@@ -64,56 +52,44 @@ TEST(SimpleAttribute, TakesTheValueOfItsFlow) {
       {"SB_MAC_AttrQRABSelectNN", 0xFB06, 0},          {"SB_MAC_AttrT2PFilterTCNN", 0xF907, 1},
       {"SB_App_AttrFlowNNNakEnableFwd", 0xFE01, 0xFF},  // has no values of its flows: keeps what was set
   };
-  for (const FlowCase& row : kCases) {
+  for (const auto& row : kCases) {
     const Ref<Object> object = create(row.name);
     object->let("PRstr_AttrValue", "11111111");
-    object->let("PRstr_AttribId", ShortBits(row.id, 16).view());
-    EXPECT_EQ(object->get("PRstr_AttrValue").to_text(), ShortBits(row.value, 8).view()) << row.name << " " << row.id;
+    object->let("PRstr_AttribId", bits_of(row.id, 16));
+    EXPECT_EQ(object->get("PRstr_AttrValue").to_text(), bits_of(row.value, 8)) << row.name << " " << row.id;
   }
 }
 
 TEST(SimpleAttribute, RefusesTheIdOfAnotherAttribute) {
-  const struct {
-    std::string_view name;
-    Raised raised;
+  constexpr struct {
+    std::string_view name, source, text;
   } kCases[] = {
-      {"SB_MAC_AttrMergeThresholdNN",
-       {1, "SB_MAC_AttrMergeThresholdNN.PRstr_AttribID", "Invalid attribute Id for Attribute MergeThresholdNN."}},
-      {"SB_MAC_AttrBurstDurationFactorNN",
-       {1, "SB_Mac_AttrBurstDurationFactorNN.PRstr_AttribID",
-        "Invalid Attribute Id for Attribute BurstDurationFactorNN."}},
-      {"SB_MAC_AttrTransmissionModeNN",
-       {1, "SB_MAC_AttrTransmissionModeNN.PRstr_AttribID", "Invalid Attribute Id for Attribute TransmissionModeNN."}},
-      {"SB_MAC_AttrQRABSelectNN", {1, "SB_MAC_AttrQRABSelectNN.PRstr_AttribID", "Invalid Attribute Id."}},
-      {"SB_MAC_AttrT2PFilterTCNN",
-       {1, "SB_MAC_AttrT2PFilterTCNN.PRstr_AttribID", "Invalid Attribute Id for Attribute T2PFilterTCNN."}},
-      {"SB_MAC_AttrBucketLevelMaxNN", {1, "SB_MAC_AttrBucketLevelMax.PRstr_AttribID", "Invalid Attribute ID."}},
+      {"MAC_AttrMergeThresholdNN", "MAC_AttrMergeThresholdNN", "Invalid attribute Id for Attribute MergeThresholdNN."},
+      {"MAC_AttrBurstDurationFactorNN", "Mac_AttrBurstDurationFactorNN",
+       "Invalid Attribute Id for Attribute BurstDurationFactorNN."},
+      {"MAC_AttrTransmissionModeNN", "MAC_AttrTransmissionModeNN",
+       "Invalid Attribute Id for Attribute TransmissionModeNN."},
+      {"MAC_AttrQRABSelectNN", "MAC_AttrQRABSelectNN", "Invalid Attribute Id."},
+      {"MAC_AttrT2PFilterTCNN", "MAC_AttrT2PFilterTCNN", "Invalid Attribute Id for Attribute T2PFilterTCNN."},
+      {"MAC_AttrBucketLevelMaxNN", "MAC_AttrBucketLevelMax", "Invalid Attribute ID."},
   };
-  for (const auto& row : kCases) {
-    const Ref<Object> object = create(row.name);
+  for_every(kCases, [](const auto& row) {
+    const Ref<Object> object = create(row.name, "SB_");
     object->let("PRstr_AttrValue", "11111111");
     const std::string before = object->call("BuildAttribute").to_text();
-    EXPECT_EQ(raised_by([&] { object->let("PRstr_AttribId", "0111111100000001"); }), row.raised);
+    EXPECT_EQ(raised_by([&] { object->let("PRstr_AttribId", "0111111100000001"); }),
+              (Raised{1, "SB_" + std::string(row.source) + ".PRstr_AttribID", std::string(row.text)}));
     EXPECT_EQ(object->call("BuildAttribute").to_text(), before);
-  }
+  });
 }
 
 TEST(SimpleAttribute, RANHandoffHasTwoAttributeIDs) {
   const Ref<Object> object = create("SB_App_AttrRANHandoff");
   EXPECT_EQ(object->get("PRstr_AttribId", true).to_text(), "1111111111111111");
-  EXPECT_EQ(object->call("BuildAttribute", true).to_text(),
-            "00000011"
-            "1111111111111111"
-            "00000000");
-  EXPECT_EQ(object->call("BuildAttribute", false).to_text(),
-            "00000010"
-            "11111111"
-            "00000000");
+  EXPECT_EQ(object->call("BuildAttribute", true).to_text(), bits_of("03 FFFF 00"));
+  EXPECT_EQ(object->call("BuildAttribute", false).to_text(), bits_of("02 FF 00"));
   EXPECT_EQ(error_number([&] { object->get("PRstr_AttribId"); }), 450);
-  object->let("PRstr_Attribute",
-              "00000010"
-              "11111110"
-              "00000001");
+  object->let("PRstr_Attribute", bits_of("02 FE 01"));
   EXPECT_EQ(object->get("PRstr_AttribId", false).to_text(), "11111110");
   EXPECT_EQ(object->get("PRstr_AttribId", true).to_text(), "1111111000000001");
   EXPECT_EQ(object->get("PRstr_AttrValue").to_text(), "00000001");
@@ -121,49 +97,45 @@ TEST(SimpleAttribute, RANHandoffHasTwoAttributeIDs) {
 
 TEST(SimpleAttribute, BuildsValuesOfVariableWidth) {
   SB_Con_AttrSmallSlotCycleAllowed slot_cycle;
-  slot_cycle.let<"PRstr_AttrValue">("");
-  EXPECT_EQ(slot_cycle.build(), "");
-  slot_cycle.let<"PRstr_AttrValue">("1");
-  EXPECT_EQ(slot_cycle.build(),
-            "00000001"
-            "11111111"
-            "1")
-      << "9 bits are an octet";
-  slot_cycle.let<"PRstr_AttrValue">("1010");
-  EXPECT_EQ(slot_cycle.build(),
-            "00000010"
-            "11111111"
-            "1010")
-      << "half an octet goes to the even number";
   SB_Ses_AttrProtocolType protocol;
-  protocol.let<"PRstr_AttribId">("0000000000001110");
-  protocol.let<"PRstr_AttrValue">("0001");
-  EXPECT_EQ(protocol.build(),
-            "00000010"
-            "0000000000001110"
-            "0001");
-  protocol.let<"PRstr_AttrValue">("0000000000000001");
-  EXPECT_EQ(protocol.build(),
-            "00000100"
-            "0000000000001110"
-            "0000000000000001");
+  protocol.let<"PRstr_AttribId">(bits_of("000E"));
+  const struct {
+    SimpleAttribute& attribute;
+    std::string value;
+    std::string record;
+  } kCases[] = {
+      {slot_cycle, "", ""},
+      {slot_cycle, "1", bits_of("01 FF") + "1"},        // 9 bits are an octet
+      {slot_cycle, "1010", bits_of("02 FF") + "1010"},  // half an octet goes to the even number
+      {slot_cycle, "10101", bits_of("02 FF") + "10101"},
+      {protocol, "0001", bits_of("02 000E") + "0001"},
+      {protocol, "0000000000000001", bits_of("04 000E 0001")},
+  };
+  for (const auto& row : kCases) {
+    row.attribute.let_value(row.value);
+    EXPECT_EQ(row.attribute.build(), row.record);
+  }
 }
 
 TEST(SimpleAttribute, FindsFaultsInRows) {
-  const auto with = [](auto change) {
-    SimpleAttributeSpec row = kAttrBucketLevelMaxNN;
-    change(row);
-    return fault(row);
+  const SimpleAttributeSpec& sound = SB_MAC_AttrBucketLevelMaxNN::shared_class().spec();
+  EXPECT_EQ(fault(sound), "");
+  void (*const kFaults[])(SimpleAttributeSpec&) = {
+      [](auto& row) { row.name = "SB_BucketLevelMaxNN"; },
+      [](auto& row) { row.initial = "0101000"; },
+      [](auto& row) { row.length = 2; },
+      [](auto& row) { row.record_bits = 24; },
+      [](auto& row) { row.disagrees_on_purpose = true; },
+      [](auto& row) { row.id = 0xFE01; },
+      [](auto& row) { row.id_settable = false; },
+      [](auto& row) { row.up_to = true; },
+      [](auto& row) { row.texts = AttributeTexts::Early; },
   };
-  EXPECT_EQ(fault(kAttrBucketLevelMaxNN), "");
-  EXPECT_NE(with([](auto& row) { row.initial = "0101000"; }), "");
-  EXPECT_NE(with([](auto& row) { row.length = 2; }), "");
-  EXPECT_NE(with([](auto& row) { row.record_bits = 24; }), "");
-  EXPECT_NE(with([](auto& row) { row.disagrees_on_purpose = true; }), "");
-  EXPECT_NE(with([](auto& row) { row.id = 0xFE01; }), "");
-  EXPECT_NE(with([](auto& row) { row.id_settable = false; }), "");
-  EXPECT_NE(with([](auto& row) { row.up_to = true; }), "");
-  EXPECT_NE(with([](auto& row) { row.texts = AttributeTexts::Early; }), "");
+  for (const auto& change : kFaults) {
+    SimpleAttributeSpec row = sound;
+    change(row);
+    EXPECT_NE(fault(row), "") << &change - kFaults;
+  }
 }
 
 }  // namespace

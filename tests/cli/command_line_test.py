@@ -55,7 +55,19 @@ SUCCEEDS = [
     ("encode SB_Mac_ValT2PTransitionFunctionNN T2PUpT2PAxis00FRABAxis0=-3", ["-0.75 dB"]),
     ("encode SB_TAS_AttrPacketRateMode MaxRate=5", ["03 01 00 05"]),
     ("decode SB_Mac_AttrDRCLock 03 01 02", ["no whole number of value records"]),
-    ("describe SB_Mac_AttrDRCLock", ["DRCLockLength 2 01", "PRobj_DRCLockVal(Index As Integer) As Object"]),
+    # A set with an octet too many, and a verbose one with PacketSize.
+    ("decode SB_App_ValReservationKKQoSReqFwd 010111 94A040A01555 B0560002000400 06080A0D",
+     ["[0] 32", "QoSAttribSetProfileID 44 0000 0101 0000 0000 0x0500 Unknown 60 1 0101 0101 0101",
+      "[1] 73", "PeakRate 88 0000 0000 0000 0001 1 ", "PacketSize 152 0000 0110 6 DelayVarSensitive 160 1 1"]),
+    ("decode SB_App_AttrReservationKKQoSReqRev 0B 08AA 010106 820008028000",
+     ["QoSAttribSetLength 56 0000 0 octets (ends the list)", "Rest 60"]),
+    ("decode SB_App_ValATSupportedQoSProfiles 0101 02040500 0501", ["0x05000501", "FlowProfileID[1] 49", "0x0501"]),
+    ("encode SB_MAC_AttrBucketLevelMaxNN AttrValue=80", ["20 dB"]),
+    ("describe SB_Mac_AttrDRCLock",
+     ["DRCLockLength 2 01", "PRobj_DRCLockVal(Index As Integer) As Object", "(C.S0024 clause 10.6)",
+      'error 9 in SB_Mac_AttrDRCLock.PRobj_DRCLockVal: get beyond the count "Subscript out of range"']),
+    ("describe SB_Sec_AttrSessionKeyLength", ["(C.S0024-400-C clause 2.6)"]),
+    ("describe SB_TAS_AttrPacketRateMode", ["(C.S0029)"]),
     # Messages that carry them: names depend on the protocol, and where records do not tell, all that fit are shown.
     ("decode SB_MsgConfigurationRequest 50 07 0500140104020 3FE0250 02ABCD --protocol 4",
      ["MaxMACFlows 17 SB_Mac_AttrMaxMACFlows", "BucketLevelMaxNN 65", "Unknown attribute 97", "0xABCD"]),
@@ -71,6 +83,11 @@ SUCCEEDS = [
 # Command, exit code, what standard error must contain.
 FAILS = [
     ("", 2, "subcommand"),
+    ("help encode", 2, '"help" is no command'),
+    (CLOSE + "--config PARAMETER_FILE", 2, "leave out --config"),
+    (CLOSE + "--sector SECTOR_1", 2, "--config"),
+    ("decode SB_App_MsgNak 02 NakType=1 nakType=0", 2, "twice"),
+    ("decode 0102", 1, "error 429"),
     ("classes --nonsense", 2, "--nonsense"),
     (CLOSE + "CloseReason", 2, "FIELD=VALUE"),
     (CLOSE + "CloseReason=1 PRstr_closeReason=2", 2, "twice"),

@@ -7,246 +7,94 @@
 
 namespace vorlan {
 
-inline constexpr ComplexAttributeSpec kAttrSupportedHigherLayerPro{
-    .name = "SB_App_AttrSupportedHigherLayerPro",
-    .summary = "SupportedHigherLayerProtocols",
-    .clause = "4",
-    .id = 0x0000,
-    .id_bits = 16,
-    .values = &ValueOf<kValSupportedHigherLayerPro>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrSupportedHigherLayerProtocols"};
-using SB_App_AttrSupportedHigherLayerPro = ComplexAttributeOf<kAttrSupportedHigherLayerPro>;
+/// Lists of value records, a 16-bit AttributeID. `summary` is the standard's name, `source` the class part of error
+/// sources where it is not the class's name.
+constexpr ComplexAttributeSpec app_attribute(std::string_view name, std::uint16_t id, ValueClassGetter values,
+                                             std::string_view summary, std::string_view source = {}) {
+  return {.name = name,
+          .summary = summary,
+          .clause = "4",
+          .id = id,
+          .id_bits = 16,
+          .values = values,
+          .wrong_record = kWrongRecord,
+          .source = source};
+}
+/// The same with a flow, a reservation or a protocol in the low octet of the AttributeID.
+constexpr ComplexAttributeSpec app_flow_attribute(std::string_view name, std::uint16_t id, ValueClassGetter values,
+                                                  std::string_view summary, std::string_view source = {}) {
+  ComplexAttributeSpec row = app_attribute(name, id, values, summary, source);
+  row.id_settable = true;
+  return row;
+}
 
-inline constexpr ComplexAttributeSpec kAttrATSupportedQoSProfiles{
-    .name = "SB_App_AttrATSupportedQoSProfiles",
-    .summary = "ATSupportedQoSProfiles",
-    .clause = "4",
-    .id = 0x0002,
-    .id_bits = 16,
-    .values = &ValueOf<kValATSupportedQoSProfiles>::shared_class,
-    .wrong_record = kWrongRecord};
-using SB_App_AttrATSupportedQoSProfiles = ComplexAttributeOf<kAttrATSupportedQoSProfiles>;
+// Some sources say Route for Flow; scripts know them so.
+inline constexpr ComplexAttributeSpec kAppAttributes[] = {
+    app_attribute("SB_App_AttrSupportedHigherLayerPro", 0x0000, kRecordsOf<kValSupportedHigherLayerPro>,
+                  "SupportedHigherLayerProtocols", "SB_App_AttrSupportedHigherLayerProtocols"),
+    app_attribute("SB_App_AttrATSupportedQoSProfiles", 0x0002, kRecordsOf<kValATSupportedQoSProfiles>,
+                  "ATSupportedQoSProfiles"),
+    app_attribute("SB_App_AttrANSupportedQoSProfiles", 0x0003, kRecordsOf<kValANSupportedQoSProfiles>,
+                  "ANSupportedQoSProfiles"),
+    app_attribute("SB_App_AttrMaxRLPFlows", 0x0004, kRecordsOf<kValMaxRLPFlows>, "MaxRLPFlows"),
+    app_attribute("SB_App_AttrMaxLinkFlows", 0x0004, kRecordsOf<kValMaxLinkFlows>, "MaxLinkFlows"),
+    app_attribute("SB_App_AttrMaxReservations", 0x0005, kRecordsOf<kValMaxReservations>, "MaxReservations"),
+    app_flow_attribute("SB_App_AttrFlowNNIdentificationFwd", 0x0100, kRecordsOf<kValFlowNNIdentificationFwd>,
+                       "FlowNNIdentificationFwd"),
+    app_flow_attribute("SB_App_AttrFlowNNIdentificationRev", 0x0200, kRecordsOf<kValFlowNNIdentificationRev>,
+                       "FlowNNIdentificationRev"),
+    app_flow_attribute("SB_App_AttrFlowNNTimersFwd", 0x0300, kRecordsOf<kValFlowNNTimersFwd>, "FlowNNTimersFwd"),
+    app_flow_attribute("SB_App_AttrFlowNNTimersRev", 0x0400, kRecordsOf<kValFlowNNTimersRev>, "FlowNNTimersRev"),
+    app_flow_attribute("SB_App_AttrFlowNNReservationFwd", 0x0500, kRecordsOf<kValFlowNNReservationFwd>,
+                       "FlowNNReservationFwd"),
+    app_flow_attribute("SB_App_AttrFlowNNReservationRev", 0x0600, kRecordsOf<kValFlowNNReservationRev>,
+                       "FlowNNReservationRev"),
+    app_flow_attribute("SB_App_AttrReservationKKQoSReqFwd", 0x07AA, kRecordsOf<kValReservationKKQoSReqFwd>,
+                       "ReservationKKQoSRequestFwd", "SB_App_AttrReservationKKQoSRequestFwd"),
+    app_flow_attribute("SB_App_AttrReservationKKQoSReqRev", 0x08AA, kRecordsOf<kValReservationKKQoSReqRev>,
+                       "ReservationKKQoSRequestRev", "SB_App_AttrReservationKKQoSRequestRev"),
+    app_flow_attribute("SB_App_AttrReservationKKQoSRespFwd", 0x09AA, kRecordsOf<kValReservationKKQoSRespFwd>,
+                       "ReservationKKQoSResponseFwd", "SB_App_AttrReservationKKQoSResponseFwd"),
+    app_flow_attribute("SB_App_AttrReservationKKQoSRespRev", 0x0AAA, kRecordsOf<kValReservationKKQoSRespRev>,
+                       "ReservationKKQoSResponseRev", "SB_App_AttrReservationKKQoSResponseRev"),
+    app_flow_attribute("SB_App_AttrFlowNNFlwPrtclParmFwd", 0x0B00, kRecordsOf<kValFlowNNFlwPrtclParmFwd>,
+                       "FlowNNFlowProtocolParametersFwd", "SB_App_AttrFlowNNFlowProtocolParametersFwd"),
+    app_flow_attribute("SB_App_AttrFlowNNFlwPrtclParmRev", 0x0C00, kRecordsOf<kValFlowNNFlwPrtclParmRev>,
+                       "FlowNNFlowProtocolParametersRev", "SB_App_AttrFlowNNFlowProtocolParametersRev"),
+    app_flow_attribute("SB_App_AttrFlowNNRutPrtclParmFwd", 0x0D00, kRecordsOf<kValFlowNNRutPrtclParmFwd>,
+                       "FlowNNRouteProtocolParametersFwd", "SB_App_AttrRouteNNRouteProtocolParametersFwd"),
+    app_flow_attribute("SB_App_AttrFlowNNRutPrtclParmRev", 0x0E00, kRecordsOf<kValFlowNNRutPrtclParmRev>,
+                       "FlowNNRouteProtocolParametersRev", "SB_App_AttrRouteNNRouteProtocolParametersRev"),
+    app_flow_attribute("SB_App_AttrATSuppFlwProtlPrmPP", 0x0F00, kRecordsOf<kValATSuppFlwProtlPrmPP>,
+                       "ATSupportedFlowProtocolParametersPP", "SB_App_AttrATSupportedFlowProtocolParametersPP"),
+    app_flow_attribute("SB_App_AttrATSuppRutProtlPrmPP", 0x1000, kRecordsOf<kValATSuppRutProtlPrmPP>,
+                       "ATSupportedRouteProtocolParametersPP", "SB_App_AttrATSupportedRouteProtocolParametersPP"),
+};
 
-inline constexpr ComplexAttributeSpec kAttrANSupportedQoSProfiles{
-    .name = "SB_App_AttrANSupportedQoSProfiles",
-    .summary = "ANSupportedQoSProfiles",
-    .clause = "4",
-    .id = 0x0003,
-    .id_bits = 16,
-    .values = &ValueOf<kValANSupportedQoSProfiles>::shared_class,
-    .wrong_record = kWrongRecord};
-using SB_App_AttrANSupportedQoSProfiles = ComplexAttributeOf<kAttrANSupportedQoSProfiles>;
+template <MemberName Name>
+using AppAttribute = ComplexAttributeOf<kAppAttributes, row_of<kAppAttributes>(Name.view())>;
 
-inline constexpr ComplexAttributeSpec kAttrMaxRLPFlows{.name = "SB_App_AttrMaxRLPFlows",
-                                                       .summary = "MaxRLPFlows",
-                                                       .clause = "4",
-                                                       .id = 0x0004,
-                                                       .id_bits = 16,
-                                                       .values = &ValueOf<kValMaxRLPFlows>::shared_class,
-                                                       .wrong_record = kWrongRecord};
-using SB_App_AttrMaxRLPFlows = ComplexAttributeOf<kAttrMaxRLPFlows>;
-
-inline constexpr ComplexAttributeSpec kAttrMaxLinkFlows{.name = "SB_App_AttrMaxLinkFlows",
-                                                        .summary = "MaxLinkFlows",
-                                                        .clause = "4",
-                                                        .id = 0x0004,
-                                                        .id_bits = 16,
-                                                        .values = &ValueOf<kValMaxLinkFlows>::shared_class,
-                                                        .wrong_record = kWrongRecord};
-using SB_App_AttrMaxLinkFlows = ComplexAttributeOf<kAttrMaxLinkFlows>;
-
-inline constexpr ComplexAttributeSpec kAttrMaxReservations{.name = "SB_App_AttrMaxReservations",
-                                                           .summary = "MaxReservations",
-                                                           .clause = "4",
-                                                           .id = 0x0005,
-                                                           .id_bits = 16,
-                                                           .values = &ValueOf<kValMaxReservations>::shared_class,
-                                                           .wrong_record = kWrongRecord};
-using SB_App_AttrMaxReservations = ComplexAttributeOf<kAttrMaxReservations>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNIdentificationFwd{
-    .name = "SB_App_AttrFlowNNIdentificationFwd",
-    .summary = "FlowNNIdentificationFwd",
-    .clause = "4",
-    .id = 0x0100,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValFlowNNIdentificationFwd>::shared_class,
-    .wrong_record = kWrongRecord};
-using SB_App_AttrFlowNNIdentificationFwd = ComplexAttributeOf<kAttrFlowNNIdentificationFwd>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNIdentificationRev{
-    .name = "SB_App_AttrFlowNNIdentificationRev",
-    .summary = "FlowNNIdentificationRev",
-    .clause = "4",
-    .id = 0x0200,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValFlowNNIdentificationRev>::shared_class,
-    .wrong_record = kWrongRecord};
-using SB_App_AttrFlowNNIdentificationRev = ComplexAttributeOf<kAttrFlowNNIdentificationRev>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNTimersFwd{.name = "SB_App_AttrFlowNNTimersFwd",
-                                                           .summary = "FlowNNTimersFwd",
-                                                           .clause = "4",
-                                                           .id = 0x0300,
-                                                           .id_bits = 16,
-                                                           .id_settable = true,
-                                                           .values = &ValueOf<kValFlowNNTimersFwd>::shared_class,
-                                                           .wrong_record = kWrongRecord};
-using SB_App_AttrFlowNNTimersFwd = ComplexAttributeOf<kAttrFlowNNTimersFwd>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNTimersRev{.name = "SB_App_AttrFlowNNTimersRev",
-                                                           .summary = "FlowNNTimersRev",
-                                                           .clause = "4",
-                                                           .id = 0x0400,
-                                                           .id_bits = 16,
-                                                           .id_settable = true,
-                                                           .values = &ValueOf<kValFlowNNTimersRev>::shared_class,
-                                                           .wrong_record = kWrongRecord};
-using SB_App_AttrFlowNNTimersRev = ComplexAttributeOf<kAttrFlowNNTimersRev>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNReservationFwd{
-    .name = "SB_App_AttrFlowNNReservationFwd",
-    .summary = "FlowNNReservationFwd",
-    .clause = "4",
-    .id = 0x0500,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValFlowNNReservationFwd>::shared_class,
-    .wrong_record = kWrongRecord};
-using SB_App_AttrFlowNNReservationFwd = ComplexAttributeOf<kAttrFlowNNReservationFwd>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNReservationRev{
-    .name = "SB_App_AttrFlowNNReservationRev",
-    .summary = "FlowNNReservationRev",
-    .clause = "4",
-    .id = 0x0600,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValFlowNNReservationRev>::shared_class,
-    .wrong_record = kWrongRecord};
-using SB_App_AttrFlowNNReservationRev = ComplexAttributeOf<kAttrFlowNNReservationRev>;
-
-inline constexpr ComplexAttributeSpec kAttrReservationKKQoSReqFwd{
-    .name = "SB_App_AttrReservationKKQoSReqFwd",
-    .summary = "ReservationKKQoSRequestFwd",
-    .clause = "4",
-    .id = 0x07AA,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValReservationKKQoSReqFwd>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrReservationKKQoSRequestFwd"};
-using SB_App_AttrReservationKKQoSReqFwd = ComplexAttributeOf<kAttrReservationKKQoSReqFwd>;
-
-inline constexpr ComplexAttributeSpec kAttrReservationKKQoSReqRev{
-    .name = "SB_App_AttrReservationKKQoSReqRev",
-    .summary = "ReservationKKQoSRequestRev",
-    .clause = "4",
-    .id = 0x08AA,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValReservationKKQoSReqRev>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrReservationKKQoSRequestRev"};
-using SB_App_AttrReservationKKQoSReqRev = ComplexAttributeOf<kAttrReservationKKQoSReqRev>;
-
-inline constexpr ComplexAttributeSpec kAttrReservationKKQoSRespFwd{
-    .name = "SB_App_AttrReservationKKQoSRespFwd",
-    .summary = "ReservationKKQoSResponseFwd",
-    .clause = "4",
-    .id = 0x09AA,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValReservationKKQoSRespFwd>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrReservationKKQoSResponseFwd"};
-using SB_App_AttrReservationKKQoSRespFwd = ComplexAttributeOf<kAttrReservationKKQoSRespFwd>;
-
-inline constexpr ComplexAttributeSpec kAttrReservationKKQoSRespRev{
-    .name = "SB_App_AttrReservationKKQoSRespRev",
-    .summary = "ReservationKKQoSResponseRev",
-    .clause = "4",
-    .id = 0x0AAA,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValReservationKKQoSRespRev>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrReservationKKQoSResponseRev"};
-using SB_App_AttrReservationKKQoSRespRev = ComplexAttributeOf<kAttrReservationKKQoSRespRev>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNFlwPrtclParmFwd{
-    .name = "SB_App_AttrFlowNNFlwPrtclParmFwd",
-    .summary = "FlowNNFlowProtocolParametersFwd",
-    .clause = "4",
-    .id = 0x0B00,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValFlowNNFlwPrtclParmFwd>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrFlowNNFlowProtocolParametersFwd"};
-using SB_App_AttrFlowNNFlwPrtclParmFwd = ComplexAttributeOf<kAttrFlowNNFlwPrtclParmFwd>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNFlwPrtclParmRev{
-    .name = "SB_App_AttrFlowNNFlwPrtclParmRev",
-    .summary = "FlowNNFlowProtocolParametersRev",
-    .clause = "4",
-    .id = 0x0C00,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValFlowNNFlwPrtclParmRev>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrFlowNNFlowProtocolParametersRev"};
-using SB_App_AttrFlowNNFlwPrtclParmRev = ComplexAttributeOf<kAttrFlowNNFlwPrtclParmRev>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNRutPrtclParmFwd{
-    .name = "SB_App_AttrFlowNNRutPrtclParmFwd",
-    .summary = "FlowNNRouteProtocolParametersFwd",
-    .clause = "4",
-    .id = 0x0D00,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValFlowNNRutPrtclParmFwd>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrRouteNNRouteProtocolParametersFwd"};
-using SB_App_AttrFlowNNRutPrtclParmFwd = ComplexAttributeOf<kAttrFlowNNRutPrtclParmFwd>;
-
-inline constexpr ComplexAttributeSpec kAttrFlowNNRutPrtclParmRev{
-    .name = "SB_App_AttrFlowNNRutPrtclParmRev",
-    .summary = "FlowNNRouteProtocolParametersRev",
-    .clause = "4",
-    .id = 0x0E00,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValFlowNNRutPrtclParmRev>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrRouteNNRouteProtocolParametersRev"};
-using SB_App_AttrFlowNNRutPrtclParmRev = ComplexAttributeOf<kAttrFlowNNRutPrtclParmRev>;
-
-inline constexpr ComplexAttributeSpec kAttrATSuppFlwProtlPrmPP{
-    .name = "SB_App_AttrATSuppFlwProtlPrmPP",
-    .summary = "ATSupportedFlowProtocolParametersPP",
-    .clause = "4",
-    .id = 0x0F00,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValATSuppFlwProtlPrmPP>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrATSupportedFlowProtocolParametersPP"};
-using SB_App_AttrATSuppFlwProtlPrmPP = ComplexAttributeOf<kAttrATSuppFlwProtlPrmPP>;
-
-inline constexpr ComplexAttributeSpec kAttrATSuppRutProtlPrmPP{
-    .name = "SB_App_AttrATSuppRutProtlPrmPP",
-    .summary = "ATSupportedRouteProtocolParametersPP",
-    .clause = "4",
-    .id = 0x1000,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValATSuppRutProtlPrmPP>::shared_class,
-    .wrong_record = kWrongRecord,
-    .source = "SB_App_AttrATSupportedRouteProtocolParametersPP"};
-using SB_App_AttrATSuppRutProtlPrmPP = ComplexAttributeOf<kAttrATSuppRutProtlPrmPP>;
+using SB_App_AttrSupportedHigherLayerPro = AppAttribute<"SB_App_AttrSupportedHigherLayerPro">;
+using SB_App_AttrATSupportedQoSProfiles = AppAttribute<"SB_App_AttrATSupportedQoSProfiles">;
+using SB_App_AttrANSupportedQoSProfiles = AppAttribute<"SB_App_AttrANSupportedQoSProfiles">;
+using SB_App_AttrMaxRLPFlows = AppAttribute<"SB_App_AttrMaxRLPFlows">;
+using SB_App_AttrMaxLinkFlows = AppAttribute<"SB_App_AttrMaxLinkFlows">;
+using SB_App_AttrMaxReservations = AppAttribute<"SB_App_AttrMaxReservations">;
+using SB_App_AttrFlowNNIdentificationFwd = AppAttribute<"SB_App_AttrFlowNNIdentificationFwd">;
+using SB_App_AttrFlowNNIdentificationRev = AppAttribute<"SB_App_AttrFlowNNIdentificationRev">;
+using SB_App_AttrFlowNNTimersFwd = AppAttribute<"SB_App_AttrFlowNNTimersFwd">;
+using SB_App_AttrFlowNNTimersRev = AppAttribute<"SB_App_AttrFlowNNTimersRev">;
+using SB_App_AttrFlowNNReservationFwd = AppAttribute<"SB_App_AttrFlowNNReservationFwd">;
+using SB_App_AttrFlowNNReservationRev = AppAttribute<"SB_App_AttrFlowNNReservationRev">;
+using SB_App_AttrReservationKKQoSReqFwd = AppAttribute<"SB_App_AttrReservationKKQoSReqFwd">;
+using SB_App_AttrReservationKKQoSReqRev = AppAttribute<"SB_App_AttrReservationKKQoSReqRev">;
+using SB_App_AttrReservationKKQoSRespFwd = AppAttribute<"SB_App_AttrReservationKKQoSRespFwd">;
+using SB_App_AttrReservationKKQoSRespRev = AppAttribute<"SB_App_AttrReservationKKQoSRespRev">;
+using SB_App_AttrFlowNNFlwPrtclParmFwd = AppAttribute<"SB_App_AttrFlowNNFlwPrtclParmFwd">;
+using SB_App_AttrFlowNNFlwPrtclParmRev = AppAttribute<"SB_App_AttrFlowNNFlwPrtclParmRev">;
+using SB_App_AttrFlowNNRutPrtclParmFwd = AppAttribute<"SB_App_AttrFlowNNRutPrtclParmFwd">;
+using SB_App_AttrFlowNNRutPrtclParmRev = AppAttribute<"SB_App_AttrFlowNNRutPrtclParmRev">;
+using SB_App_AttrATSuppFlwProtlPrmPP = AppAttribute<"SB_App_AttrATSuppFlwProtlPrmPP">;
+using SB_App_AttrATSuppRutProtlPrmPP = AppAttribute<"SB_App_AttrATSuppRutProtlPrmPP">;
 
 }  // namespace vorlan

@@ -3,21 +3,11 @@
 #include <algorithm>
 #include <numeric>
 
+#include "attributes/index_of.hpp"
 #include "automation/error.hpp"
 #include "common/conversions.hpp"
 
 namespace vorlan {
-
-namespace {
-
-constexpr std::size_t kLengthBits = 8;
-
-/// Half to even, as numbers become integers.
-std::string octets_text(std::size_t bits) {
-  return dec_to_bin(round_to_long(static_cast<double>(bits) / 8), kLengthBits);
-}
-
-}  // namespace
 
 ComplexAttribute::ComplexAttribute(const ComplexAttributeClass& attribute_class)
     : Attribute(attribute_class.info()),
@@ -54,9 +44,7 @@ std::size_t ComplexAttribute::count() const {
 }
 
 AttributeValue& ComplexAttribute::value(std::size_t index) {
-  if (received_ && index >= lengths_.size()) {
-    throw Error(ErrorNumber::SubscriptOutOfRange, class_.source("PRobj_" + std::string(class_.bare_name()) + "Val"));
-  }
+  if (received_ && index >= lengths_.size()) throw class_.beyond_count();
   if (!value_) value_ = make<AttributeValue>(class_.spec().values());
   if (received_) {
     const auto start =
@@ -95,7 +83,8 @@ std::string ComplexAttribute::build(std::string_view value_records) const {
   const std::string own = class_.spec().form == AttributeForm::Fields ? fields_.build() : std::string();
   const std::string_view values = class_.spec().form == AttributeForm::Fields ? own : value_records;
   const std::string_view id = id_.view();
-  std::string record = octets_text(id.size() + values.size());
+  std::string record =
+      dec_to_bin(static_cast<std::int32_t>(octets_behind_length(id.size() + values.size())), kLengthBits);
   record.reserve(record.size() + id.size() + values.size());
   return record.append(id).append(values);
 }
@@ -113,11 +102,7 @@ Value ComplexAttribute::invoke_member(int index, Access access, std::span<Value>
       if (!assigns) return length();
       let_length(arguments[0].to_text());
       return {};
-    case ComplexAttributeClass::Action::ValueObject: {
-      // A negative index is beyond every count.
-      const auto i = static_cast<std::size_t>(static_cast<std::int64_t>(arguments[0].to_integer()));
-      return Ref<Object>(&value(i));
-    }
+    case ComplexAttributeClass::Action::ValueObject: return Ref<Object>(&value(index_of(arguments[0])));
     case ComplexAttributeClass::Action::AttribId:
       if (!assigns) return id();
       let_id(arguments[0].to_text());

@@ -33,9 +33,8 @@ class ComplexAttributeClass {
   [[nodiscard]] const std::string& id() const noexcept { return id_; }
   [[nodiscard]] const std::string& length() const noexcept { return length_; }
   [[nodiscard]] std::string source(std::string_view member) const;
-  /// "DRCLock" of SB_Mac_AttrDRCLock.
-  [[nodiscard]] std::string_view bare_name() const noexcept;
   [[nodiscard]] std::string_view count_member() const noexcept { return names_.front(); }
+  [[nodiscard]] Error beyond_count() const;
 
  private:
   [[nodiscard]] std::vector<MemberInfo> list_members();
@@ -76,7 +75,8 @@ class ComplexAttribute : public Attribute {
   void let_length(std::string_view bits);  ///< 8 bits; only kept, build() counts for itself
   void let_id(std::string_view bits);      ///< 16 bits
 
-  /// Length, the stored AttributeID, and the value records; the fields as stored in classes that have fields.
+  /// Length, the stored AttributeID, and the value records; the fields as stored in classes that have fields. Error 1
+  /// of "SB_GeneralFunctions.LongToBin" if more than 255 octets stand behind Length.
   [[nodiscard]] std::string build(std::string_view value_records = {}) const;
 
   [[nodiscard]] std::string_view stored_id() const noexcept override { return id_.view(); }

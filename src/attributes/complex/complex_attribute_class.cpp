@@ -1,5 +1,6 @@
 // What is made of a complex attribute's row: its members, the fields of its record, and the texts that it raises.
 #include "attributes/complex/complex_attribute.hpp"
+#include "automation/error.hpp"
 #include "common/conversions.hpp"
 
 namespace vorlan {
@@ -18,7 +19,8 @@ ComplexAttributeClass::ComplexAttributeClass(const ComplexAttributeSpec& spec)
       fields_(spec.fields, {.source = spec.source.empty() ? spec.name : spec.source}),
       id_(long_to_bin(spec.id, spec.id_bits)),
       length_(initial_length(spec, fields_)),
-      names_({"PRint_Attr" + std::string(bare_name()) + "Count", "PRobj_" + std::string(bare_name()) + "Val"}),
+      names_({std::string("PRint_Attr").append(attribute_name(spec.name)) + "Count",
+              std::string("PRobj_").append(attribute_name(spec.name)) + "Val"}),
       info_([&] {
         auto members = list_members();
         return ClassInfo({spec.name, spec.summary, spec.clause}, std::move(members), list_fields(), list_errors());
@@ -28,10 +30,7 @@ std::string ComplexAttributeClass::source(std::string_view member) const {
   return std::string(spec_.source.empty() ? spec_.name : spec_.source).append(".").append(member);
 }
 
-std::string_view ComplexAttributeClass::bare_name() const noexcept {
-  constexpr std::string_view kMark = "_Attr";
-  return spec_.name.substr(spec_.name.find(kMark) + kMark.size());
-}
+Error ComplexAttributeClass::beyond_count() const { return Error(ErrorNumber::SubscriptOutOfRange, source(names_[1])); }
 
 std::vector<MemberInfo> ComplexAttributeClass::list_members() {
   std::vector<MemberInfo> members;
@@ -119,6 +118,9 @@ std::vector<ErrorInfo> ComplexAttributeClass::list_errors() const {
   }
   if (spec_.form == AttributeForm::RecordList) {
     errors.push_back({source(count_member()), std::string(spec_.not_received), "get before a record is received"});
+    errors.push_back(error_info(Error(ErrorNumber::Overflow, std::string(spec_.name).append(".").append(names_[0])),
+                                "get of more than 32767"));
+    errors.push_back(error_info(beyond_count(), "get beyond the count"));
   }
   if (spec_.search == nullptr) {
     errors.push_back({source("PRstr_Length"), std::string(spec_.wrong_length), "let of another width"});
@@ -127,6 +129,13 @@ std::vector<ErrorInfo> ComplexAttributeClass::list_errors() const {
     errors.push_back({source("PRstr_AttribID"), std::string(spec_.wrong_id), "let of another width"});
   }
   fields_.list_errors(errors);
+  if (spec_.form != AttributeForm::Fields) {
+    try {
+      static_cast<void>(dec_to_bin(256, 8));
+    } catch (const Error& error) {
+      errors.push_back(error_info(error, "BuildAttribute with 256 octets behind Length; likewise with more"));
+    }
+  }
   return errors;
 }
 

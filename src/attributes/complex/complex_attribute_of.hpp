@@ -1,17 +1,20 @@
 // The C++ face of a complex attribute class: a type of its own.
 #pragma once
 
+#include "attributes/attribute_table.hpp"
 #include "attributes/complex/complex_attribute.hpp"
 #include "attributes/values/value_of.hpp"
 
 namespace vorlan {
 
-/// The class made from a row:
+/// The class made from a row of a table; each has a name beside its table:
 ///   SB_Mac_AttrDRCLock a;
 ///   a.build(v.build());
 /// In classes with fields: a.let<"PRstr_DRCValue">("00000100"). An unknown name does not compile.
-template <const ComplexAttributeSpec& Spec>
+template <const auto& Rows, std::size_t kRow>
 class ComplexAttributeOf : public ComplexAttribute {
+  static_assert(kRow < std::size(Rows), "no row has the name of this class");
+
  public:
   ComplexAttributeOf() : ComplexAttribute(shared_class()) {}
   // A local or a member object keeps the one reference that it starts with, and goes without releasing it.
@@ -30,8 +33,8 @@ class ComplexAttributeOf : public ComplexAttribute {
   }
 
   static const ComplexAttributeClass& shared_class() {
-    static_assert(fault(Spec).empty(), "a fault in the attribute's row; the test of the attribute tables prints it");
-    static const ComplexAttributeClass kClass{Spec};
+    static_assert(fault(Rows[kRow]).empty(), "a fault in the attribute's row; the test of the tables prints it");
+    static const ComplexAttributeClass kClass{Rows[kRow]};
     return kClass;
   }
   static const ClassInfo& info() { return shared_class().info(); }
@@ -40,15 +43,14 @@ class ComplexAttributeOf : public ComplexAttribute {
  private:
   template <MemberName Name>
   static constexpr std::size_t index() {
-    constexpr std::size_t kIndex = find_field(Spec.fields, Name.view());
-    static_assert(kIndex < Spec.fields.size(), "the attribute has no such field");
+    constexpr std::size_t kIndex = find_field(Rows[kRow].fields, Name.view());
+    static_assert(kIndex < Rows[kRow].fields.size(), "the attribute has no such field");
     return kIndex;
   }
 };
 
-template <const ComplexAttributeSpec& Spec>
-constexpr ClassEntry complex_attribute_entry() {
-  return {Spec.name, &ComplexAttributeOf<Spec>::info, &ComplexAttributeOf<Spec>::create};
-}
+/// What a row says of its value records.
+template <const ValueSpec& Value>
+inline constexpr ValueClassGetter kRecordsOf = &ValueOf<Value>::shared_class;
 
 }  // namespace vorlan

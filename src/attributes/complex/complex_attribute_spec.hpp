@@ -17,6 +17,7 @@ enum class AttributeForm : std::uint8_t {
 };
 
 class ComplexAttribute;
+using ValueClassGetter = const ValueClass& (*)();
 
 // Texts that several classes share; blanks and missing stops are part of them.
 inline constexpr std::string_view kWrongRecord = "Length of Attribute is not correct.";
@@ -45,7 +46,7 @@ struct ComplexAttributeSpec {
   /// The low octet of the AttributeID is a flow or a reservation label, which the script sets with the whole ID.
   bool id_settable = false;
 
-  const ValueClass& (*values)() = nullptr;   ///< of its value records
+  ValueClassGetter values = nullptr;         ///< of its value records
   std::span<const RecordField> fields = {};  ///< Fields
   const AttributeSearch* search = nullptr;   ///< RecordList: in place of PRstr_Length and PRstr_AttribId
 

@@ -16,89 +16,68 @@ inline constexpr AttributeSearch kSupportedChannelsSearch{
     "ReturnValIDSupp", kSupportedChannelsArguments, supported_channels_value_id,
     "The ValueID of the first received value record that offers a band class, and in it a subclass."};
 
-inline constexpr ComplexAttributeSpec kAttrPrefCtrlChannelCycle{
-    .name = "SB_Con_AttrPrefCtrlChannelCycle",
-    .summary = "PreferredControlChannelCycle",
-    .clause = "8.5",
-    .id = 0x00,
-    .values = &ValueOf<kValPrefCtrlChannelCycle>::shared_class,
-    .wrong_record = kWrongConnectionRecord,
-    .wrong_length = kWrongOldLength};
-using SB_Con_AttrPrefCtrlChannelCycle = ComplexAttributeOf<kAttrPrefCtrlChannelCycle>;
+/// An attribute of the connection layer: lists of value records, an 8-bit AttributeID.
+constexpr ComplexAttributeSpec con_attribute(std::string_view clause, std::string_view name, std::uint16_t id,
+                                             ValueClassGetter values, std::string_view summary) {
+  return {.name = name,
+          .summary = summary,
+          .clause = clause,
+          .id = id,
+          .values = values,
+          .wrong_record = kWrongConnectionRecord,
+          .wrong_length = kWrongOldLength};
+}
 
-inline constexpr ComplexAttributeSpec kAttrSlottedMode{.name = "SB_Con_AttrSlottedMode",
-                                                       .summary = "SlottedMode",
-                                                       .clause = "8.5",
-                                                       .id = 0x01,
-                                                       .values = &ValueOf<kValSlottedMode>::shared_class,
-                                                       .wrong_record = kWrongConnectionRecord,
-                                                       .wrong_length = kWrongOldLength};
-using SB_Con_AttrSlottedMode = ComplexAttributeOf<kAttrSlottedMode>;
+inline constexpr ComplexAttributeSpec kConSesAttributes[] = {
+    con_attribute("8.5", "SB_Con_AttrPrefCtrlChannelCycle", 0x00, kRecordsOf<kValPrefCtrlChannelCycle>,
+                  "PreferredControlChannelCycle"),
+    con_attribute("8.5", "SB_Con_AttrSlottedMode", 0x01, kRecordsOf<kValSlottedMode>, "SlottedMode"),
+    con_attribute("8.5", "SB_Con_AttrPagingMask", 0x02, kRecordsOf<kValPagingMask>, "PagingMask"),
+    con_attribute("8.7", "SB_Con_AttrSearchParameters", 0x00, kRecordsOf<kValSearchParameters>, "SearchParameters"),
+    con_attribute("8.7", "SB_Con_AttrSetMgmSameChnlParameter", 0x01, kRecordsOf<kValSetMgmSameChnlParameter>,
+                  "SetManagementSameChannelParameters"),
+    {.name = "SB_Con_AttrSetMgmDiffChnlParameter",
+     .summary = "SetManagementDifferentChannelParameters",
+     .clause = "8.7",
+     .id = 0x02,
+     .values = kRecordsOf<kValSetMgmDiffChnlParameters>,
+     .wrong_record = kWrongConnectionRecord,
+     .wrong_length = kWrongOldLength,
+     .source = "SB_Con_AttrSetMgmtDiffChnlParameters"},
+    {.name = "SB_Con_AttrSuppCDMAChannels",
+     .summary = "SupportedCDMAChannels",
+     .clause = "8.7",
+     .id = 0x04,
+     .values = kRecordsOf<kValSuppCDMAChannels>,
+     .search = &kSupportedChannelsSearch,
+     .wrong_record = kWrongConnectionRecord},
+    {.name = "SB_Ses_AttrPriorSession",
+     .summary = "PriorSession",
+     .clause = "5.4.7",
+     .id = 0x1000,
+     .id_bits = 16,
+     .values = kRecordsOf<kValPriorSession>,
+     .wrong_record = kWrongRecord},
+    {.name = "SB_Str_AttrStreamConfig",
+     .summary = "StreamConfiguration",
+     .clause = "6",
+     .id = 0x00,
+     .values = kRecordsOf<kValStreamConfig>,
+     .wrong_record = kWrongRecord,
+     .wrong_length = kWrongOldLength},
+};
 
-inline constexpr ComplexAttributeSpec kAttrPagingMask{.name = "SB_Con_AttrPagingMask",
-                                                      .summary = "PagingMask",
-                                                      .clause = "8.5",
-                                                      .id = 0x02,
-                                                      .values = &ValueOf<kValPagingMask>::shared_class,
-                                                      .wrong_record = kWrongConnectionRecord,
-                                                      .wrong_length = kWrongOldLength};
-using SB_Con_AttrPagingMask = ComplexAttributeOf<kAttrPagingMask>;
+template <MemberName Name>
+using ConSesAttribute = ComplexAttributeOf<kConSesAttributes, row_of<kConSesAttributes>(Name.view())>;
 
-inline constexpr ComplexAttributeSpec kAttrSearchParameters{.name = "SB_Con_AttrSearchParameters",
-                                                            .summary = "SearchParameters",
-                                                            .clause = "8.7",
-                                                            .id = 0x00,
-                                                            .values = &ValueOf<kValSearchParameters>::shared_class,
-                                                            .wrong_record = kWrongConnectionRecord,
-                                                            .wrong_length = kWrongOldLength};
-using SB_Con_AttrSearchParameters = ComplexAttributeOf<kAttrSearchParameters>;
-
-inline constexpr ComplexAttributeSpec kAttrSetMgmSameChnlParameter{
-    .name = "SB_Con_AttrSetMgmSameChnlParameter",
-    .summary = "SetManagementSameChannelParameters",
-    .clause = "8.7",
-    .id = 0x01,
-    .values = &ValueOf<kValSetMgmSameChnlParameter>::shared_class,
-    .wrong_record = kWrongConnectionRecord,
-    .wrong_length = kWrongOldLength};
-using SB_Con_AttrSetMgmSameChnlParameter = ComplexAttributeOf<kAttrSetMgmSameChnlParameter>;
-
-inline constexpr ComplexAttributeSpec kAttrSetMgmDiffChnlParameter{
-    .name = "SB_Con_AttrSetMgmDiffChnlParameter",
-    .summary = "SetManagementDifferentChannelParameters",
-    .clause = "8.7",
-    .id = 0x02,
-    .values = &ValueOf<kValSetMgmDiffChnlParameters>::shared_class,
-    .wrong_record = kWrongConnectionRecord,
-    .wrong_length = kWrongOldLength,
-    .source = "SB_Con_AttrSetMgmtDiffChnlParameters"};
-using SB_Con_AttrSetMgmDiffChnlParameter = ComplexAttributeOf<kAttrSetMgmDiffChnlParameter>;
-
-inline constexpr ComplexAttributeSpec kAttrSuppCDMAChannels{.name = "SB_Con_AttrSuppCDMAChannels",
-                                                            .summary = "SupportedCDMAChannels",
-                                                            .clause = "8.7",
-                                                            .id = 0x04,
-                                                            .values = &ValueOf<kValSuppCDMAChannels>::shared_class,
-                                                            .search = &kSupportedChannelsSearch,
-                                                            .wrong_record = kWrongConnectionRecord};
-using SB_Con_AttrSuppCDMAChannels = ComplexAttributeOf<kAttrSuppCDMAChannels>;
-
-inline constexpr ComplexAttributeSpec kAttrPriorSession{.name = "SB_Ses_AttrPriorSession",
-                                                        .summary = "PriorSession",
-                                                        .clause = "5.4.7",
-                                                        .id = 0x1000,
-                                                        .id_bits = 16,
-                                                        .values = &ValueOf<kValPriorSession>::shared_class,
-                                                        .wrong_record = kWrongRecord};
-using SB_Ses_AttrPriorSession = ComplexAttributeOf<kAttrPriorSession>;
-
-inline constexpr ComplexAttributeSpec kAttrStreamConfig{.name = "SB_Str_AttrStreamConfig",
-                                                        .summary = "StreamConfiguration",
-                                                        .clause = "6",
-                                                        .id = 0x00,
-                                                        .values = &ValueOf<kValStreamConfig>::shared_class,
-                                                        .wrong_record = kWrongRecord,
-                                                        .wrong_length = kWrongOldLength};
-using SB_Str_AttrStreamConfig = ComplexAttributeOf<kAttrStreamConfig>;
+using SB_Con_AttrPrefCtrlChannelCycle = ConSesAttribute<"SB_Con_AttrPrefCtrlChannelCycle">;
+using SB_Con_AttrSlottedMode = ConSesAttribute<"SB_Con_AttrSlottedMode">;
+using SB_Con_AttrPagingMask = ConSesAttribute<"SB_Con_AttrPagingMask">;
+using SB_Con_AttrSearchParameters = ConSesAttribute<"SB_Con_AttrSearchParameters">;
+using SB_Con_AttrSetMgmSameChnlParameter = ConSesAttribute<"SB_Con_AttrSetMgmSameChnlParameter">;
+using SB_Con_AttrSetMgmDiffChnlParameter = ConSesAttribute<"SB_Con_AttrSetMgmDiffChnlParameter">;
+using SB_Con_AttrSuppCDMAChannels = ConSesAttribute<"SB_Con_AttrSuppCDMAChannels">;
+using SB_Ses_AttrPriorSession = ConSesAttribute<"SB_Ses_AttrPriorSession">;
+using SB_Str_AttrStreamConfig = ConSesAttribute<"SB_Str_AttrStreamConfig">;
 
 }  // namespace vorlan

@@ -7,217 +7,147 @@
 
 namespace vorlan {
 
-inline constexpr ComplexAttributeSpec kAttrInitialConfiguration{
-    .name = "SB_Mac_AttrInitialConfiguration",
-    .summary = "InitialConfiguration of the access channel",
-    .clause = "10.4",
-    .id = 0x00,
-    .values = &ValueOf<kValInitialConfiguration>::shared_class,
-    .wrong_record = kWrongRecord,
-    .not_received = kNotReceivedProperty,
-    .wrong_length = kWrongOldLength};
-using SB_Mac_AttrInitialConfiguration = ComplexAttributeOf<kAttrInitialConfiguration>;
+/// The first MAC protocols: lists of value records, an 8-bit AttributeID, and each its own text for a malformed record.
+constexpr ComplexAttributeSpec mac_attribute(std::string_view clause, std::string_view name, std::uint16_t id,
+                                             ValueClassGetter values, std::string_view summary,
+                                             std::string_view wrong_record) {
+  return {.name = name,
+          .summary = summary,
+          .clause = clause,
+          .id = id,
+          .values = values,
+          .wrong_record = wrong_record,
+          .not_received = kNotReceivedProperty,
+          .wrong_length = kWrongOldLength};
+}
 
-inline constexpr ComplexAttributeSpec kAttrPowerParameters{
-    .name = "SB_Mac_AttrPowerParameters",
-    .summary = "PowerParameters of the access channel",
-    .clause = "10.4",
-    .id = 0x01,
-    .values = &ValueOf<kValPowerParameters>::shared_class,
-    .wrong_record = "PowerParameter Attribute string length is incorrect.",
-    .not_received = kNotReceivedProperty,
-    .wrong_length = kWrongOldLength};
-using SB_Mac_AttrPowerParameters = ComplexAttributeOf<kAttrPowerParameters>;
-
-inline constexpr ComplexAttributeSpec kAttrHandoffDelays{
-    .name = "SB_Mac_AttrHandoffDelays",
-    .summary = "HandoffDelays",
-    .clause = "10.6",
-    .id = 0x00,
-    .values = &ValueOf<kValHandoffDelays>::shared_class,
-    .wrong_record = "Handoffdelays Attribute string length is incorrect. ",
-    .not_received = kNotReceivedProperty,
-    .wrong_length = kWrongOldLength};
-using SB_Mac_AttrHandoffDelays = ComplexAttributeOf<kAttrHandoffDelays>;
-
-inline constexpr ComplexAttributeSpec kAttrDRCLock{.name = "SB_Mac_AttrDRCLock",
-                                                   .summary = "DRCLock",
-                                                   .clause = "10.6",
-                                                   .id = 0x01,
-                                                   .values = &ValueOf<kValDRCLock>::shared_class,
-                                                   .wrong_record = "Error:Attribute string length is incorrect. ",
-                                                   .not_received = kNotReceivedProperty,
-                                                   .wrong_length = kWrongOldLength};
-using SB_Mac_AttrDRCLock = ComplexAttributeOf<kAttrDRCLock>;
-
-inline constexpr ComplexAttributeSpec kAttrRTCPowerParameters{
-    .name = "SB_Mac_AttrRTCPowerParameters",
-    .summary = "PowerParameters of the reverse traffic channel",
-    .clause = "10.8",
-    .id = 0x00,
-    .values = &ValueOf<kValRTCPowerParameters>::shared_class,
-    .wrong_record = "PowerParameter Attribute string length is incorrect.",
-    .not_received = kNotReceivedProperty,
-    .wrong_length = kWrongOldLength};
-using SB_Mac_AttrRTCPowerParameters = ComplexAttributeOf<kAttrRTCPowerParameters>;
-
-inline constexpr ComplexAttributeSpec kAttrRateParameters{
-    .name = "SB_Mac_AttrRateParameters",
-    .summary = "RateParameters of the reverse traffic channel",
-    .clause = "10.8",
-    .id = 0x01,
-    .values = &ValueOf<kValRateParameters>::shared_class,
-    .wrong_record = "RateParameter Attribute string length incorrect.",
-    .not_received = kNotReceivedProperty,
-    .wrong_length = kWrongOldLength};
-using SB_Mac_AttrRateParameters = ComplexAttributeOf<kAttrRateParameters>;
-
-inline constexpr ComplexAttributeSpec kAttrMaxMACFlows{.name = "SB_Mac_AttrMaxMACFlows",
-                                                       .summary = "MaxMACFlows",
-                                                       .clause = "10.11.7",
-                                                       .id = 0x0014,
-                                                       .id_bits = 16,
-                                                       .values = &ValueOf<kValMaxMACFlows>::shared_class,
-                                                       .wrong_record = kWrongRecord};
-using SB_Mac_AttrMaxMACFlows = ComplexAttributeOf<kAttrMaxMACFlows>;
-
-inline constexpr ComplexAttributeSpec kAttrAssociatedFlowsNN{.name = "SB_MAC_AttrAssociatedFlowsNN",
-                                                             .summary = "AssociatedFlowsNN",
-                                                             .clause = "10.11.7",
-                                                             .id = 0x0101,
-                                                             .id_bits = 16,
-                                                             .id_settable = true,
-                                                             .values = &ValueOf<kValAssociatedFlowsNN>::shared_class,
-                                                             .wrong_record = kWrongRecord};
-using SB_MAC_AttrAssociatedFlowsNN = ComplexAttributeOf<kAttrAssociatedFlowsNN>;
-
-inline constexpr ComplexAttributeSpec kAttrAuxiliaryPilotChnlParams{
-    .name = "SB_Mac_AttrAuxiliaryPilotChnlParams",
-    .summary = "AuxiliaryPilotChannelParameters",
-    .clause = "10.11.7",
-    .form = AttributeForm::Builder,
-    .id = 0x0000,
-    .id_bits = 16,
-    .values = &ValueOf<kValAuxiliaryPilotChnlParams>::shared_class};
-using SB_Mac_AttrAuxiliaryPilotChnlParams = ComplexAttributeOf<kAttrAuxiliaryPilotChnlParams>;
-
-inline constexpr ComplexAttributeSpec kAttrCommonPowerParameters{
-    .name = "SB_Mac_AttrCommonPowerParameters",
-    .summary = "CommonPowerParameters",
-    .clause = "10.11.7",
-    .form = AttributeForm::Builder,
-    .id = 0x0001,
-    .id_bits = 16,
-    .values = &ValueOf<kValCommonPowerParameters>::shared_class};
-using SB_Mac_AttrCommonPowerParameters = ComplexAttributeOf<kAttrCommonPowerParameters>;
-
-inline constexpr ComplexAttributeSpec kAttrPermittedPayload{.name = "SB_Mac_AttrPermittedPayload",
-                                                            .summary = "PermittedPayload",
-                                                            .clause = "10.11.7",
-                                                            .form = AttributeForm::Builder,
-                                                            .id = 0x0003,
-                                                            .id_bits = 16,
-                                                            .values = &ValueOf<kValPermittedPayload>::shared_class};
-using SB_Mac_AttrPermittedPayload = ComplexAttributeOf<kAttrPermittedPayload>;
-
-inline constexpr ComplexAttributeSpec kAttrPilotStrength{.name = "SB_Mac_AttrPilotStrength",
-                                                         .summary = "PilotStrength",
-                                                         .clause = "10.11.7",
-                                                         .form = AttributeForm::Builder,
-                                                         .id = 0x0004,
-                                                         .id_bits = 16,
-                                                         .values = &ValueOf<kValPilotStrength>::shared_class};
-using SB_Mac_AttrPilotStrength = ComplexAttributeOf<kAttrPilotStrength>;
-
-inline constexpr ComplexAttributeSpec kAttrRequestParameters{.name = "SB_Mac_AttrRequestParameters",
-                                                             .summary = "RequestParameters",
-                                                             .clause = "10.11.7",
-                                                             .form = AttributeForm::Builder,
-                                                             .id = 0x0011,
-                                                             .id_bits = 16,
-                                                             .values = &ValueOf<kValRequestParameters>::shared_class};
-using SB_Mac_AttrRequestParameters = ComplexAttributeOf<kAttrRequestParameters>;
-
-inline constexpr ComplexAttributeSpec kAttrRRIChannelPwrParam{.name = "SB_Mac_AttrRRIChannelPwrParam",
-                                                              .summary = "RRIChannelPowerParameters",
-                                                              .clause = "10.11.7",
-                                                              .form = AttributeForm::Builder,
-                                                              .id = 0x0012,
-                                                              .id_bits = 16,
-                                                              .values = &ValueOf<kValRRIChannelPwrParam>::shared_class};
-using SB_Mac_AttrRRIChannelPwrParam = ComplexAttributeOf<kAttrRRIChannelPwrParam>;
-
-inline constexpr ComplexAttributeSpec kAttrTxT2Pmax{.name = "SB_Mac_AttrTxT2Pmax",
-                                                    .summary = "TxT2Pmax",
-                                                    .clause = "10.11.7",
-                                                    .form = AttributeForm::Builder,
-                                                    .id = 0x0013,
-                                                    .id_bits = 16,
-                                                    .values = &ValueOf<kValTxT2Pmax>::shared_class};
-using SB_Mac_AttrTxT2Pmax = ComplexAttributeOf<kAttrTxT2Pmax>;
-
-inline constexpr ComplexAttributeSpec kAttrBucketFactorNN{.name = "SB_Mac_AttrBucketFactorNN",
-                                                          .summary = "BucketFactorNN",
-                                                          .clause = "10.11.7",
-                                                          .form = AttributeForm::Builder,
-                                                          .id = 0x0300,
-                                                          .id_bits = 16,
-                                                          .id_settable = true,
-                                                          .values = &ValueOf<kValBucketFactorNN>::shared_class};
-using SB_Mac_AttrBucketFactorNN = ComplexAttributeOf<kAttrBucketFactorNN>;
-
-inline constexpr ComplexAttributeSpec kAttrT2PInflowRangeNN{.name = "SB_Mac_AttrT2PInflowRangeNN",
-                                                            .summary = "T2PInflowRangeNN",
-                                                            .clause = "10.11.7",
-                                                            .form = AttributeForm::Builder,
-                                                            .id = 0x1500,
-                                                            .id_bits = 16,
-                                                            .id_settable = true,
-                                                            .values = &ValueOf<kValT2PInflowRangeNN>::shared_class};
-using SB_Mac_AttrT2PInflowRangeNN = ComplexAttributeOf<kAttrT2PInflowRangeNN>;
-
-inline constexpr ComplexAttributeSpec kAttrT2PTransitionFunctionNN{
-    .name = "SB_Mac_AttrT2PTransitionFunctionNN",
-    .summary = "T2PTransitionFunctionNN",
-    .clause = "10.11.7",
-    .form = AttributeForm::Builder,
-    .id = 0x1600,
-    .id_bits = 16,
-    .id_settable = true,
-    .values = &ValueOf<kValT2PTransitionFunctionNN>::shared_class};
-using SB_Mac_AttrT2PTransitionFunctionNN = ComplexAttributeOf<kAttrT2PTransitionFunctionNN>;
-
-inline constexpr ComplexAttributeSpec kAttrDRCTranslationOffset{
-    .name = "SB_Mac_AttrDRCTranslationOffset",
-    .summary = "DRCTranslationOffset",
-    .clause = "10.7",
-    .form = AttributeForm::Builder,
-    .id = 0x01,
-    .values = &ValueOf<kValDRCTranslationOffset>::shared_class,
-    .wrong_length = kWrongOldLength};
-using SB_Mac_AttrDRCTranslationOffset = ComplexAttributeOf<kAttrDRCTranslationOffset>;
-
-/// The twelve PowerParameters attributes: one for each payload size, their AttributeIDs in that order.
+/// The reverse traffic channel, subtype 3: a 16-bit AttributeID. Most are never received.
+constexpr ComplexAttributeSpec rtc_mac_attribute(std::string_view name, std::uint16_t id, ValueClassGetter values,
+                                                 std::string_view summary) {
+  return {.name = name,
+          .summary = summary,
+          .clause = "10.11.7",
+          .form = AttributeForm::Builder,
+          .id = id,
+          .id_bits = 16,
+          .values = values};
+}
+/// The same with a flow in the low octet of the AttributeID.
+constexpr ComplexAttributeSpec rtc_mac_flow_attribute(std::string_view name, std::uint16_t id, ValueClassGetter values,
+                                                      std::string_view summary) {
+  ComplexAttributeSpec row = rtc_mac_attribute(name, id, values, summary);
+  row.id_settable = true;
+  return row;
+}
+/// The PowerParameters of a payload size: their AttributeIDs follow each other in that order.
 template <const PowerParametersRow& Row>
-inline constexpr ComplexAttributeSpec kAttrPowerParametersOf{
-    .name = sized<"SB_Mac_AttrPowerParameters", Row>(),
-    .summary = "PowerParameters of a payload size",
-    .clause = "10.11.7",
-    .form = AttributeForm::Builder,
-    .id = static_cast<std::uint16_t>(0x0004 + small_value(Row.value_id)),
-    .id_bits = 16,
-    .values = &ValueOf<kValPowerParametersOf<Row>>::shared_class};
-using SB_Mac_AttrPowerParameters128 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters128>>;
-using SB_Mac_AttrPowerParameters256 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters256>>;
-using SB_Mac_AttrPowerParameters512 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters512>>;
-using SB_Mac_AttrPowerParameters768 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters768>>;
-using SB_Mac_AttrPowerParameters1024 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters1024>>;
-using SB_Mac_AttrPowerParameters1536 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters1536>>;
-using SB_Mac_AttrPowerParameters2048 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters2048>>;
-using SB_Mac_AttrPowerParameters3072 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters3072>>;
-using SB_Mac_AttrPowerParameters4096 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters4096>>;
-using SB_Mac_AttrPowerParameters6144 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters6144>>;
-using SB_Mac_AttrPowerParameters8192 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters8192>>;
-using SB_Mac_AttrPowerParameters12288 = ComplexAttributeOf<kAttrPowerParametersOf<kPowerParameters12288>>;
+constexpr ComplexAttributeSpec power_parameters_attribute() {
+  return rtc_mac_attribute(sized<"SB_Mac_AttrPowerParameters", Row>(),
+                           static_cast<std::uint16_t>(0x0004 + small_value(Row.value_id)),
+                           kRecordsOf<kValPowerParametersOf<Row>>, "PowerParameters of a payload size");
+}
+
+inline constexpr ComplexAttributeSpec kMacAttributes[] = {
+    mac_attribute("10.4", "SB_Mac_AttrInitialConfiguration", 0x00, kRecordsOf<kValInitialConfiguration>,
+                  "InitialConfiguration of the access channel", kWrongRecord),
+    mac_attribute("10.4", "SB_Mac_AttrPowerParameters", 0x01, kRecordsOf<kValPowerParameters>,
+                  "PowerParameters of the access channel", "PowerParameter Attribute string length is incorrect."),
+    mac_attribute("10.6", "SB_Mac_AttrHandoffDelays", 0x00, kRecordsOf<kValHandoffDelays>, "HandoffDelays",
+                  "Handoffdelays Attribute string length is incorrect. "),
+    mac_attribute("10.6", "SB_Mac_AttrDRCLock", 0x01, kRecordsOf<kValDRCLock>, "DRCLock",
+                  "Error:Attribute string length is incorrect. "),
+    mac_attribute("10.8", "SB_Mac_AttrRTCPowerParameters", 0x00, kRecordsOf<kValRTCPowerParameters>,
+                  "PowerParameters of the reverse traffic channel",
+                  "PowerParameter Attribute string length is incorrect."),
+    mac_attribute("10.8", "SB_Mac_AttrRateParameters", 0x01, kRecordsOf<kValRateParameters>,
+                  "RateParameters of the reverse traffic channel", "RateParameter Attribute string length incorrect."),
+
+    {.name = "SB_Mac_AttrMaxMACFlows",
+     .summary = "MaxMACFlows",
+     .clause = "10.11.7",
+     .id = 0x0014,
+     .id_bits = 16,
+     .values = kRecordsOf<kValMaxMACFlows>,
+     .wrong_record = kWrongRecord},
+    {.name = "SB_MAC_AttrAssociatedFlowsNN",
+     .summary = "AssociatedFlowsNN",
+     .clause = "10.11.7",
+     .id = 0x0101,
+     .id_bits = 16,
+     .id_settable = true,
+     .values = kRecordsOf<kValAssociatedFlowsNN>,
+     .wrong_record = kWrongRecord},
+
+    rtc_mac_attribute("SB_Mac_AttrAuxiliaryPilotChnlParams", 0x0000, kRecordsOf<kValAuxiliaryPilotChnlParams>,
+                      "AuxiliaryPilotChannelParameters"),
+    rtc_mac_attribute("SB_Mac_AttrCommonPowerParameters", 0x0001, kRecordsOf<kValCommonPowerParameters>,
+                      "CommonPowerParameters"),
+    rtc_mac_attribute("SB_Mac_AttrPermittedPayload", 0x0003, kRecordsOf<kValPermittedPayload>, "PermittedPayload"),
+    rtc_mac_attribute("SB_Mac_AttrPilotStrength", 0x0004, kRecordsOf<kValPilotStrength>, "PilotStrength"),
+    rtc_mac_attribute("SB_Mac_AttrRequestParameters", 0x0011, kRecordsOf<kValRequestParameters>, "RequestParameters"),
+    rtc_mac_attribute("SB_Mac_AttrRRIChannelPwrParam", 0x0012, kRecordsOf<kValRRIChannelPwrParam>,
+                      "RRIChannelPowerParameters"),
+    rtc_mac_attribute("SB_Mac_AttrTxT2Pmax", 0x0013, kRecordsOf<kValTxT2Pmax>, "TxT2Pmax"),
+    rtc_mac_flow_attribute("SB_Mac_AttrBucketFactorNN", 0x0300, kRecordsOf<kValBucketFactorNN>, "BucketFactorNN"),
+    rtc_mac_flow_attribute("SB_Mac_AttrT2PInflowRangeNN", 0x1500, kRecordsOf<kValT2PInflowRangeNN>, "T2PInflowRangeNN"),
+    rtc_mac_flow_attribute("SB_Mac_AttrT2PTransitionFunctionNN", 0x1600, kRecordsOf<kValT2PTransitionFunctionNN>,
+                           "T2PTransitionFunctionNN"),
+    // Of the enhanced forward traffic channel, and the one builder with an 8-bit AttributeID.
+    {.name = "SB_Mac_AttrDRCTranslationOffset",
+     .summary = "DRCTranslationOffset",
+     .clause = "10.7",
+     .form = AttributeForm::Builder,
+     .id = 0x01,
+     .values = kRecordsOf<kValDRCTranslationOffset>,
+     .wrong_length = kWrongOldLength},
+
+    power_parameters_attribute<kPowerParameters128>(),
+    power_parameters_attribute<kPowerParameters256>(),
+    power_parameters_attribute<kPowerParameters512>(),
+    power_parameters_attribute<kPowerParameters768>(),
+    power_parameters_attribute<kPowerParameters1024>(),
+    power_parameters_attribute<kPowerParameters1536>(),
+    power_parameters_attribute<kPowerParameters2048>(),
+    power_parameters_attribute<kPowerParameters3072>(),
+    power_parameters_attribute<kPowerParameters4096>(),
+    power_parameters_attribute<kPowerParameters6144>(),
+    power_parameters_attribute<kPowerParameters8192>(),
+    power_parameters_attribute<kPowerParameters12288>(),
+};
+
+template <MemberName Name>
+using MacAttribute = ComplexAttributeOf<kMacAttributes, row_of<kMacAttributes>(Name.view())>;
+
+using SB_Mac_AttrInitialConfiguration = MacAttribute<"SB_Mac_AttrInitialConfiguration">;
+using SB_Mac_AttrPowerParameters = MacAttribute<"SB_Mac_AttrPowerParameters">;
+using SB_Mac_AttrHandoffDelays = MacAttribute<"SB_Mac_AttrHandoffDelays">;
+using SB_Mac_AttrDRCLock = MacAttribute<"SB_Mac_AttrDRCLock">;
+using SB_Mac_AttrRTCPowerParameters = MacAttribute<"SB_Mac_AttrRTCPowerParameters">;
+using SB_Mac_AttrRateParameters = MacAttribute<"SB_Mac_AttrRateParameters">;
+using SB_Mac_AttrMaxMACFlows = MacAttribute<"SB_Mac_AttrMaxMACFlows">;
+using SB_MAC_AttrAssociatedFlowsNN = MacAttribute<"SB_MAC_AttrAssociatedFlowsNN">;
+using SB_Mac_AttrAuxiliaryPilotChnlParams = MacAttribute<"SB_Mac_AttrAuxiliaryPilotChnlParams">;
+using SB_Mac_AttrCommonPowerParameters = MacAttribute<"SB_Mac_AttrCommonPowerParameters">;
+using SB_Mac_AttrPermittedPayload = MacAttribute<"SB_Mac_AttrPermittedPayload">;
+using SB_Mac_AttrPilotStrength = MacAttribute<"SB_Mac_AttrPilotStrength">;
+using SB_Mac_AttrRequestParameters = MacAttribute<"SB_Mac_AttrRequestParameters">;
+using SB_Mac_AttrRRIChannelPwrParam = MacAttribute<"SB_Mac_AttrRRIChannelPwrParam">;
+using SB_Mac_AttrTxT2Pmax = MacAttribute<"SB_Mac_AttrTxT2Pmax">;
+using SB_Mac_AttrBucketFactorNN = MacAttribute<"SB_Mac_AttrBucketFactorNN">;
+using SB_Mac_AttrT2PInflowRangeNN = MacAttribute<"SB_Mac_AttrT2PInflowRangeNN">;
+using SB_Mac_AttrT2PTransitionFunctionNN = MacAttribute<"SB_Mac_AttrT2PTransitionFunctionNN">;
+using SB_Mac_AttrDRCTranslationOffset = MacAttribute<"SB_Mac_AttrDRCTranslationOffset">;
+using SB_Mac_AttrPowerParameters128 = MacAttribute<"SB_Mac_AttrPowerParameters128">;
+using SB_Mac_AttrPowerParameters256 = MacAttribute<"SB_Mac_AttrPowerParameters256">;
+using SB_Mac_AttrPowerParameters512 = MacAttribute<"SB_Mac_AttrPowerParameters512">;
+using SB_Mac_AttrPowerParameters768 = MacAttribute<"SB_Mac_AttrPowerParameters768">;
+using SB_Mac_AttrPowerParameters1024 = MacAttribute<"SB_Mac_AttrPowerParameters1024">;
+using SB_Mac_AttrPowerParameters1536 = MacAttribute<"SB_Mac_AttrPowerParameters1536">;
+using SB_Mac_AttrPowerParameters2048 = MacAttribute<"SB_Mac_AttrPowerParameters2048">;
+using SB_Mac_AttrPowerParameters3072 = MacAttribute<"SB_Mac_AttrPowerParameters3072">;
+using SB_Mac_AttrPowerParameters4096 = MacAttribute<"SB_Mac_AttrPowerParameters4096">;
+using SB_Mac_AttrPowerParameters6144 = MacAttribute<"SB_Mac_AttrPowerParameters6144">;
+using SB_Mac_AttrPowerParameters8192 = MacAttribute<"SB_Mac_AttrPowerParameters8192">;
+using SB_Mac_AttrPowerParameters12288 = MacAttribute<"SB_Mac_AttrPowerParameters12288">;
 
 }  // namespace vorlan

@@ -8,32 +8,55 @@
 
 namespace vorlan {
 
+// Members that several messages have.
+inline constexpr NegotiationMember kMessageString{NegotiationAction::MessageString, "PRstr_MessageString",
+                                                  "The received message as one bit string."};
+inline constexpr NegotiationMember kMessageId{NegotiationAction::MessageId, "PRstr_MessageID",
+                                              "MessageID, from the received message once there is one."};
+inline constexpr NegotiationMember kTransactionId{NegotiationAction::TransactionId, "PRstr_TransactionId",
+                                                  "TransactionID, from the received message once there is one."};
+inline constexpr NegotiationMember kAttributeCount{NegotiationAction::AttributeCount, "PRint_AttributeCount",
+                                                   "The number of received records with an AttributeID."};
+inline constexpr NegotiationMember kMessageObject{NegotiationAction::MessageObject, "PRobj_MessageObject",
+                                                  "Takes a received message object and decodes it."};
+inline constexpr NegotiationMember kInitialize{
+    NegotiationAction::Initialize, "Initialize",
+    "Makes the object ready to build. A non-empty encoder string is sent unchanged."};
+inline constexpr NegotiationMember kCreateMessage{
+    NegotiationAction::CreateMessage, "CreateMessage",
+    "Fills a message object with the encoded message and its length; returns True."};
+inline constexpr NegotiationMember kOtherGetters{NegotiationAction::Getters, {}};
+inline constexpr NegotiationMember kRecord{NegotiationAction::Record, "ReturnAttributeRecord",
+                                           "The record of this number from 0, Length included."};
+/// A number that the object keeps for the script.
+constexpr NegotiationMember kept(std::string_view name) {
+  return {NegotiationAction::Setting, name, "Kept for the script."};
+}
+constexpr NegotiationMember getter(std::string_view name) { return {NegotiationAction::Getter, name}; }
+
 inline constexpr NegotiationMember kConfigurationRequestMembers[] = {
-    {NegotiationAction::MessageString, "PRstr_MessageString", "The received message as one bit string."},
-    {NegotiationAction::MessageId, "PRstr_MessageID", "MessageID, from the received message once there is one."},
-    {NegotiationAction::TransactionId, "PRstr_TransactionId",
-     "TransactionID, from the received message once there is one."},
-    {NegotiationAction::AttributeCount, "PRint_AttributeCount", "The number of received records with an AttributeID."},
-    {NegotiationAction::MessageObject, "PRobj_MessageObject", "Takes a received message object and decodes it."},
-    {NegotiationAction::Initialize, "Initialize",
-     "Makes the object ready to build. A non-empty encoder string is sent unchanged."},
-    {NegotiationAction::CreateMessage, "CreateMessage",
-     "Fills a message object with the encoded message and its length; returns True."},
-    {NegotiationAction::Getters, {}},
+    kMessageString,
+    kMessageId,
+    kTransactionId,
+    kAttributeCount,
+    kMessageObject,
+    kInitialize,
+    kCreateMessage,
+    kOtherGetters,
     {NegotiationAction::FlowNumber, "GetFlowNumber", "The flow of the last received record of a flow; returns True."},
     {NegotiationAction::Decode, "DecodeConfigurationRequestMsg",
      "Counts the received records, and makes the list that ReturnAttributeRecord reads."},
     {NegotiationAction::RecordCount, "PR_intNumAttribRecords", "The number of records that were counted."},
-    {NegotiationAction::Record, "ReturnAttributeRecord", "The record of this number from 0, Length included."},
-    {NegotiationAction::Setting, "PRlng_Stream_Config", "Kept for the script."},
-    {NegotiationAction::Setting, "PRint_MAC_FTC_SubType", "Kept for the script."},
-    {NegotiationAction::Setting, "PRint_MAC_RTC_SubType", "Kept for the script."},
-    {NegotiationAction::Setting, "PRint_MAC_ACH_SubType", "Kept for the script."},
-    {NegotiationAction::Setting, "PRint_MAC_CCH_SubType", "Kept for the script."},
-    {NegotiationAction::Setting, "PRint_PhyLay_SubType", "Kept for the script."},
-    {NegotiationAction::Setting, "PRint_IdleState_SubType", "Kept for the script."},
-    {NegotiationAction::Setting, "PRint_ScriptType", "Kept for the script."},
-    {NegotiationAction::Setting, "PRint_ValueIDLength", "Kept for the script."},
+    kRecord,
+    kept("PRlng_Stream_Config"),
+    kept("PRint_MAC_FTC_SubType"),
+    kept("PRint_MAC_RTC_SubType"),
+    kept("PRint_MAC_ACH_SubType"),
+    kept("PRint_MAC_CCH_SubType"),
+    kept("PRint_PhyLay_SubType"),
+    kept("PRint_IdleState_SubType"),
+    kept("PRint_ScriptType"),
+    kept("PRint_ValueIDLength"),
     {NegotiationAction::EnhancedIdleState, "PRstr_EnhancedIdleStateAttrValue",
      "The subtypes that the received message proposes for the Idle State protocol."},
 };
@@ -50,15 +73,12 @@ using SB_MsgConfigurationRequest = NegotiationOf<kConfigurationRequest>;
 inline constexpr NegotiationMember kConfigurationResponseMembers[] = {
     {NegotiationAction::MessageString, "PRstr_MessageString",
      "The received message as one bit string; setting it receives a message without a message object."},
-    {NegotiationAction::MessageId, "PRstr_MessageID", "MessageID, from the received message once there is one."},
-    {NegotiationAction::TransactionId, "PRstr_TransactionId",
-     "TransactionID, from the received message once there is one."},
+    kMessageId,
+    kTransactionId,
     {NegotiationAction::ValueId, "PRstr_ValId", "The accepted ValueID of a complex attribute; empty: not accepted."},
-    {NegotiationAction::MessageObject, "PRobj_MessageObject", "Takes a received message object and decodes it."},
-    {NegotiationAction::CreateMessage, "CreateMessage",
-     "Fills a message object with the encoded message and its length; returns True."},
-    {NegotiationAction::Initialize, "Initialize",
-     "Makes the object ready to build. A non-empty encoder string is sent unchanged."},
+    kMessageObject,
+    kCreateMessage,
+    kInitialize,
     {NegotiationAction::AttributeValue, "PRstr_AttrVal",
      "The accepted value of a simple attribute; empty: not accepted."},
 };
@@ -74,26 +94,23 @@ inline constexpr NegotiationSpec kConfigurationResponse{.name = "SB_MsgConfigura
 using SB_MsgConfigurationResponse = NegotiationOf<kConfigurationResponse>;
 
 inline constexpr NegotiationMember kAttributeUpdateRequestMembers[] = {
-    {NegotiationAction::MessageString, "PRstr_MessageString", "The received message as one bit string."},
-    {NegotiationAction::MessageId, "PRstr_MessageID", "MessageID, from the received message once there is one."},
-    {NegotiationAction::TransactionId, "PRstr_TransactionId",
-     "TransactionID, from the received message once there is one."},
-    {NegotiationAction::Getter, "PRobj_AttrReservationKKQoSRequestFwd"},
-    {NegotiationAction::Getter, "PRobj_AttrReservationKKQoSRequestRev"},
-    {NegotiationAction::Getter, "PRobj_AttrReservationKKQoSResponseFwd"},
-    {NegotiationAction::Getter, "PRobj_AttrReservationKKQoSResponseRev"},
-    {NegotiationAction::Getter, "PRobj_AttrMaxMACFlows"},
-    {NegotiationAction::Getter, "PRobj_AttrAssociatedFlowsNN"},
-    {NegotiationAction::Getter, "PRobj_AttrBucketLevelMaxNN"},
-    {NegotiationAction::AttributeCount, "PRint_AttributeCount", "The number of received records with an AttributeID."},
-    {NegotiationAction::MessageObject, "PRobj_MessageObject", "Takes a received message object and decodes it."},
-    {NegotiationAction::Initialize, "Initialize",
-     "Makes the object ready to build. A non-empty encoder string is sent unchanged."},
-    {NegotiationAction::CreateMessage, "CreateMessage",
-     "Fills a message object with the encoded message and its length; returns True."},
-    {NegotiationAction::Getters, {}},
+    kMessageString,
+    kMessageId,
+    kTransactionId,
+    getter("PRobj_AttrReservationKKQoSRequestFwd"),
+    getter("PRobj_AttrReservationKKQoSRequestRev"),
+    getter("PRobj_AttrReservationKKQoSResponseFwd"),
+    getter("PRobj_AttrReservationKKQoSResponseRev"),
+    getter("PRobj_AttrMaxMACFlows"),
+    getter("PRobj_AttrAssociatedFlowsNN"),
+    getter("PRobj_AttrBucketLevelMaxNN"),
+    kAttributeCount,
+    kMessageObject,
+    kInitialize,
+    kCreateMessage,
+    kOtherGetters,
     {NegotiationAction::RecordOfAttribute, "GetAttributeID", "A record by its number from 0 and its AttributeID."},
-    {NegotiationAction::Record, "ReturnAttributeRecord", "The record of this number from 0, Length included."},
+    kRecord,
 };
 inline constexpr NegotiationSpec kAttributeUpdateRequest{.name = "SB_MsgAttributeUpdateRequest",
                                                          .summary = "Changes values of attributes within a session",

@@ -72,13 +72,6 @@ bool takes(std::span<const DissectedField> tree) {
   return std::all_of(tree.begin() + 1, tree.end(), [](const auto& field) { return field.note.empty(); });
 }
 
-/// "MaxMACFlows" of SB_Mac_AttrMaxMACFlows.
-std::string bare_name(const Attribute& attribute) {
-  constexpr std::string_view kMark = "_Attr";
-  const std::string_view name = attribute.class_info()->name();
-  return std::string(name.substr(name.find(kMark) + kMark.size()));
-}
-
 DissectedField dissect_record(std::string_view bits, Extent place, bool names_accepted, bool of_session,
                               std::span<const AttributeCatalogue::Candidate> candidates) {
   DissectedField node{.name = "Unknown attribute", .first = place.offset + std::size_t{1}};
@@ -90,7 +83,7 @@ DissectedField dissect_record(std::string_view bits, Extent place, bool names_ac
     return node;
   }
   const auto& [attribute, id_bits] = candidates.front();
-  node.name = bare_name(*attribute);
+  node.name = attribute_name(attribute->class_info()->name());
   node.value = attribute->class_info()->name();
   if (const std::string_view name = name_of(kProtocolTypes, id); of_session && !name.empty()) {
     node.value.append(", ").append(name);
@@ -101,8 +94,12 @@ DissectedField dissect_record(std::string_view bits, Extent place, bool names_ac
   node.below = attribute->dissect(bits, place);
   if (names_accepted) {
     const auto header = kOctet + static_cast<std::uint32_t>(id_bits);
-    node.below.resize(std::min<std::size_t>(node.below.size(), 2));
-    if (place.width > header) {
+    // What is accepted is a ValueID, or the value itself.
+    const bool is_value = !attribute->has_value_records() && node.below.size() == 3;
+    node.below.resize(std::min<std::size_t>(node.below.size(), is_value ? 3 : 2));
+    if (is_value) {
+      node.below.back().name = "Accepted";
+    } else if (place.width > header) {
       node.below.push_back(dissected_leaf("Accepted", nullptr, bits, {place.offset + header, place.width - header}));
     }
   }

@@ -1,5 +1,6 @@
 // What is made of a negotiation message's row: its members and the texts that it raises.
 #include "attributes/negotiation/negotiation_message.hpp"
+#include "automation/error.hpp"
 
 namespace vorlan {
 
@@ -158,7 +159,10 @@ std::vector<ErrorInfo> NegotiationClass::list_errors() const {
       {source("PRstr_TransactionID"), "Encoder and this property cannot be used simultaneously.",
        "let in encoder mode"},
       {source("PRstr_TransactionID"), "Length of <TransactionID> field should be 8 bits.", "let of another width"},
-      {source("PRstr_MessageString"), not_set(), "get before a message is received"}};
+      {source("PRstr_MessageString"), not_set(), "get before a message is received"},
+      error_info(Error(ErrorNumber::Overflow, source("CreateMessage")), "call with more than 32767 bits"),
+      error_info(Error(ErrorNumber::ObjectNotSet, source("CreateMessage")), "call with Nothing"),
+      error_info(Error(ErrorNumber::ObjectNotSet, source("PRobj_MessageObject")), "set to Nothing")};
   constexpr std::string_view kTooEarly = "get before a message is received";
   constexpr std::string_view kId = "<AttributeID>";  // stands for the one that is asked for
   for (const NegotiationMember& row : spec_.members) {

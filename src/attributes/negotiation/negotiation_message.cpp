@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "attributes/index_of.hpp"
 #include "automation/error.hpp"
 #include "common/conversions.hpp"
 #include "messages/message_object.hpp"
@@ -12,11 +13,6 @@ namespace {
 
 constexpr std::size_t kOctet = 8;
 constexpr std::size_t kTransactionBits = 8;
-
-/// A negative index is beyond every count.
-std::size_t index_of(const Value& argument) {
-  return static_cast<std::size_t>(static_cast<std::int64_t>(argument.to_integer()));
-}
 
 }  // namespace
 

@@ -31,6 +31,7 @@ class NegotiationOf : public NegotiationMessage {
   }
 
   static const NegotiationClass& shared_class() {
+    static_assert(fault(Spec).empty(), "a fault in the message's rows; the test of negotiation messages prints it");
     static const NegotiationClass kClass{Spec};
     return kClass;
   }

@@ -10,56 +10,47 @@ namespace vorlan {
 
 inline constexpr std::string_view kUpdateRequest = "Attribute Update Request";
 
+/// An attribute with an AttributeID of its own, whose texts part the message's name.
+template <class T>
+constexpr AttributeGetter update_getter(std::string_view name, std::string_view searched) {
+  return {.name = name, .make = make_attribute<T>, .searched = searched, .message = kUpdateRequest};
+}
+/// An attribute of a reservation, which the script may name by the AttributeID.
+template <class T>
+constexpr AttributeGetter reservation_getter(std::string_view name, std::string_view searched,
+                                             std::string_view source) {
+  AttributeGetter row = update_getter<T>(name, searched);
+  row.takes_id = true;
+  row.source = source;
+  return row;
+}
+/// An attribute of a flow.
+template <class T>
+constexpr AttributeGetter update_flow_getter(std::string_view name) {
+  return {.name = name, .make = make_attribute<T>, .takes_id = true};
+}
+
 inline constexpr AttributeGetter kUpdateGetters[] = {
-    {.name = "PRobj_AttrReservationKKQoSRequestFwd",
-     .make = make_attribute<SB_App_AttrReservationKKQoSReqFwd>,
-     .searched = "0000011110101010",
-     .takes_id = true,
-     .message = kUpdateRequest,
-     .source = "SB_App_AttrReservationKKQoSRequestFwd.PRobj_AttrReservationKKQoSRequestFwd"},
+    reservation_getter<SB_App_AttrReservationKKQoSReqFwd>(
+        "PRobj_AttrReservationKKQoSRequestFwd", "0000011110101010",
+        "SB_App_AttrReservationKKQoSRequestFwd.PRobj_AttrReservationKKQoSRequestFwd"),
     // Unlike the other three it searches for reservation label 0x00.
-    {.name = "PRobj_AttrReservationKKQoSRequestRev",
-     .make = make_attribute<SB_App_AttrReservationKKQoSReqRev>,
-     .searched = "0000100000000000",
-     .takes_id = true,
-     .message = kUpdateRequest,
-     .source = "SB_App_AttrReservationKKQoSRequestRev.PRobj_AttrReservationKKQoSRequestRev"},
-    {.name = "PRobj_AttrReservationKKQoSResponseFwd",
-     .make = make_attribute<SB_App_AttrReservationKKQoSRespFwd>,
-     .searched = "0000100110101010",
-     .takes_id = true,
-     .message = kUpdateRequest,
-     .source = "SB_App_AttrReservationKKQoSResponseFwd.PRobj_AttrReservationKKQoSResponseFwd"},
-    {.name = "PRobj_AttrReservationKKQoSResponseRev",
-     .make = make_attribute<SB_App_AttrReservationKKQoSRespRev>,
-     .searched = "0000101010101010",
-     .takes_id = true,
-     .message = kUpdateRequest,
-     .source = "SB_App_AttrReservationKKQoSResponseRev.PRobj_AttrReservationKKQoSResponseRev"},
-    {.name = "PRobj_AttrMaxMACFlows",
-     .make = make_attribute<SB_Mac_AttrMaxMACFlows>,
-     .searched = "0000000000010100",
-     .message = kUpdateRequest},
-    {.name = "PRobj_AttrAssociatedFlowsNN",
-     .make = make_attribute<SB_MAC_AttrAssociatedFlowsNN>,
-     .searched = "0000000100000001",
-     .message = kUpdateRequest},
-    {.name = "PRobj_AttrBucketLevelMaxNN",
-     .make = make_attribute<SB_MAC_AttrBucketLevelMaxNN>,
-     .searched = "1111111000000010",
-     .message = kUpdateRequest},
-    {.name = "PRobj_AttrFlowNNReservationFwd",
-     .make = make_attribute<SB_App_AttrFlowNNReservationFwd>,
-     .takes_id = true},
-    {.name = "PRobj_AttrFlowNNReservationRev",
-     .make = make_attribute<SB_App_AttrFlowNNReservationRev>,
-     .takes_id = true},
-    {.name = "PRobj_AttrFlowNNIdentificationFwd",
-     .make = make_attribute<SB_App_AttrFlowNNIdentificationFwd>,
-     .takes_id = true},
-    {.name = "PRobj_AttrFlowNNIdentificationRev",
-     .make = make_attribute<SB_App_AttrFlowNNIdentificationRev>,
-     .takes_id = true},
+    reservation_getter<SB_App_AttrReservationKKQoSReqRev>(
+        "PRobj_AttrReservationKKQoSRequestRev", "0000100000000000",
+        "SB_App_AttrReservationKKQoSRequestRev.PRobj_AttrReservationKKQoSRequestRev"),
+    reservation_getter<SB_App_AttrReservationKKQoSRespFwd>(
+        "PRobj_AttrReservationKKQoSResponseFwd", "0000100110101010",
+        "SB_App_AttrReservationKKQoSResponseFwd.PRobj_AttrReservationKKQoSResponseFwd"),
+    reservation_getter<SB_App_AttrReservationKKQoSRespRev>(
+        "PRobj_AttrReservationKKQoSResponseRev", "0000101010101010",
+        "SB_App_AttrReservationKKQoSResponseRev.PRobj_AttrReservationKKQoSResponseRev"),
+    update_getter<SB_Mac_AttrMaxMACFlows>("PRobj_AttrMaxMACFlows", "0000000000010100"),
+    update_getter<SB_MAC_AttrAssociatedFlowsNN>("PRobj_AttrAssociatedFlowsNN", "0000000100000001"),
+    update_getter<SB_MAC_AttrBucketLevelMaxNN>("PRobj_AttrBucketLevelMaxNN", "1111111000000010"),
+    update_flow_getter<SB_App_AttrFlowNNReservationFwd>("PRobj_AttrFlowNNReservationFwd"),
+    update_flow_getter<SB_App_AttrFlowNNReservationRev>("PRobj_AttrFlowNNReservationRev"),
+    update_flow_getter<SB_App_AttrFlowNNIdentificationFwd>("PRobj_AttrFlowNNIdentificationFwd"),
+    update_flow_getter<SB_App_AttrFlowNNIdentificationRev>("PRobj_AttrFlowNNIdentificationRev"),
 };
 
 }  // namespace vorlan

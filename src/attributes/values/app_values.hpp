@@ -58,6 +58,9 @@ inline constexpr ValueSpec kValSupportedHigherLayerPro =
               kValSupportedHigherLayerProFields, "SB_App_ValSupportedHigherLayerProtocols");
 using SB_App_ValSupportedHigherLayerPro = ValueOf<kValSupportedHigherLayerPro>;
 
+/// FlowProfileIDs, for people.
+std::vector<DissectedField> dissect_supported_profile(std::size_t type, std::string_view whole, Extent profile);
+
 inline constexpr RecordField kSupportedQoSProfilesFields[] = {
     kValueIdField,
     fixed("PRstr_QoSProfileCount", 8, {}, nullptr, "The number of profiles."),
@@ -74,7 +77,9 @@ inline constexpr RecordField kSupportedQoSProfilesFields[] = {
      .width = octets_of("PRstr_ProfileLength"),
      .repeat = list_by("PRstr_QoSProfileCount", 1),
      .meaning = &kHex,
-     .summary = "The profile."},
+     .summary = "The profile.",
+     .inside = dissect_supported_profile,
+     .kind = "PRstr_ProfileType"},
 };
 inline constexpr ValueSpec kValANSupportedQoSProfiles =
     app_value("SB_App_ValANSupportedQoSProfiles", "A value of ANSupportedQoSProfiles", kSupportedQoSProfilesFields);
@@ -122,8 +127,6 @@ inline constexpr ValueSpec kValFlowNNIdentificationRev{.name = "SB_App_ValFlowNN
                                                        .tells_length = true,
                                                        .has_flag = true};
 using SB_App_ValFlowNNIdentificationRev = ValueOf<kValFlowNNIdentificationRev>;
-
-inline constexpr Meaning kMilliseconds{.unit = "ms"};
 
 inline constexpr RecordField kFlowNNTimersFields[] = {
     kValueIdField,

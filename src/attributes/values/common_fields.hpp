@@ -15,9 +15,6 @@ inline constexpr RecordField kReservedField{.name = "PRstr_Reserved",
                                             .settable = false,
                                             .summary = "The bits that fill the last octet up."};
 
-inline constexpr Meaning kQuarterDb{.unit = "dB", .scale = 0.25, .summary = "0.25 dB"};
-inline constexpr Meaning kSignedQuarterDb{
-    .unit = "dB", .scale = 0.25, .is_signed = true, .summary = "0.25 dB, two's complement"};
 inline constexpr Code kRPCSteps[] = {{0, "0.5 dB"}, {1, "1 dB"}};
 inline constexpr Meaning kRPCStep{.codes = kRPCSteps, .summary = "0.5 or 1 dB"};
 

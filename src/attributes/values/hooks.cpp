@@ -32,11 +32,9 @@ void let_protocol_parameters(Record& record, std::size_t, std::string_view bits)
 
 void decode_profile_type_1(Record& record) {
   const std::string operation = source(record, "Decode_ProfileType1");
-  if (record.get("PRstr_ProfileType") != "00000001") raise(operation, kNotProfileType1);
+  if (record.get("PRstr_ProfileType") != "00000001") throw kDecodeRefusals[0].error(operation);
   Record profile(qos_profile());
-  if (!profile.receive(record.get("PRstr_ProfileValue"))) {
-    raise(operation, kWrongProfile);
-  }
+  if (!profile.receive(record.get("PRstr_ProfileValue"))) throw kDecodeRefusals[1].error(operation);
   record.let("PRstr_FlowPriority", profile.get("PRstr_FlowPriority"));
   record.let("PRstr_QoSAttribSetCount", profile.get("PRstr_QoSAttribSetCount"));
   const RecordClass& rows = record.record_class();
@@ -56,7 +54,7 @@ void set_profile(Record& record) {
   for (std::size_t i = 0; i < sets; ++i) {
     // The rates and delays of a verbose set are no properties of the class.
     if (record.get("PRstr_QoSAttribSetVerbose", {i}) == "1") {
-      throw Error(ErrorNumber::InvalidCall, source(record, "ProfileSet"), "a verbose attribute set");
+      throw kProfileSetRefusals[0].error(source(record, "ProfileSet"));
     }
     for (const std::string_view name : kSetProperties) profile.let(name, {i}, record.get(name, {i}));
   }

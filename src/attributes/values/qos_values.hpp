@@ -1,6 +1,9 @@
 // Value records of QoS reservations (C.S0024-A 4; the profile of type 1 is that of X.S0011-004).
 #pragma once
 
+#include <algorithm>
+#include <array>
+
 #include "attributes/values/app_values.hpp"
 
 namespace vorlan {
@@ -15,58 +18,58 @@ inline constexpr RecordField kProfileLengthField{.name = "PRstr_ProfileLength",
                                                  .only = if_not_zero("PRstr_ProfileType"),
                                                  .meaning = &kOctets,
                                                  .summary = "Length of the profile."};
-inline constexpr RecordField kProfileValueField{.name = "PRstr_ProfileValue",
-                                                .width = octets_of("PRstr_ProfileLength"),
-                                                .only = if_not_zero("PRstr_ProfileType"),
-                                                .meaning = &kHex,
-                                                .summary = "The profile."};
+constexpr RecordField profile_value(std::vector<DissectedField> (*inside)(std::size_t, std::string_view, Extent)) {
+  return {.name = "PRstr_ProfileValue",
+          .width = octets_of("PRstr_ProfileLength"),
+          .only = if_not_zero("PRstr_ProfileType"),
+          .meaning = &kHex,
+          .summary = "The profile.",
+          .inside = inside,
+          .kind = "PRstr_ProfileType"};
+}
 
 // --- Requests
 
-/// The profile of type 1: the priority and up to seven attribute sets, each filled up to an octet.
-inline constexpr RecordField kQoSProfileFields[] = {
-    {.name = "PRstr_FlowPriority", .bits = 4, .summary = "Priority of the flow."},
-    {.name = "PRstr_QoSAttribSetCount", .bits = 3, .summary = "The number of attribute sets."},
-    {.name = "PRstr_QoSAttribSetLength", .bits = 4, .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "PRstr_QoSAttribSetID", .bits = 7, .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "PRstr_QoSAttribSetVerbose", .bits = 1, .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "PRstr_QoSAttribSetProfileID",
-     .bits = 16,
-     .only = if_zero("PRstr_QoSAttribSetVerbose"),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "TrafficClass",
-     .bits = 3,
-     .only = if_one("PRstr_QoSAttribSetVerbose"),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "PeakRate",
-     .bits = 16,
-     .only = if_one("PRstr_QoSAttribSetVerbose"),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "BucketSize",
-     .bits = 16,
-     .only = if_one("PRstr_QoSAttribSetVerbose"),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "TokenRate",
-     .bits = 16,
-     .only = if_one("PRstr_QoSAttribSetVerbose"),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "MaxLatency",
-     .bits = 8,
-     .only = if_one("PRstr_QoSAttribSetVerbose"),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "MaxIPPacketLossRate",
-     .bits = 8,
-     .only = if_one("PRstr_QoSAttribSetVerbose"),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "DelayVarSensitive",
-     .bits = 1,
-     .only = if_one("PRstr_QoSAttribSetVerbose"),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1)},
-    {.name = "PRstr_ReserveBits",
-     .width = to_octet(),
-     .repeat = list_by("PRstr_QoSAttribSetCount", 1),
-     .settable = false},
+/// An attribute set of a profile of type 1. Length counts its octets from Length on; later issues of the standard put
+/// PacketSize into verbose sets, which are longer by it.
+inline constexpr RecordField kQoSSetFields[] = {
+    {.name = "PRstr_QoSAttribSetLength", .bits = 4, .meaning = &kOctets},
+    {.name = "PRstr_QoSAttribSetID", .bits = 7},
+    {.name = "PRstr_QoSAttribSetVerbose", .bits = 1},
+    {.name = "PRstr_QoSAttribSetProfileID", .bits = 16, .only = if_zero("PRstr_QoSAttribSetVerbose"), .meaning = &kHex},
+    {.name = "TrafficClass", .bits = 3, .only = if_one("PRstr_QoSAttribSetVerbose")},
+    {.name = "PeakRate", .bits = 16, .only = if_one("PRstr_QoSAttribSetVerbose")},
+    {.name = "BucketSize", .bits = 16, .only = if_one("PRstr_QoSAttribSetVerbose")},
+    {.name = "TokenRate", .bits = 16, .only = if_one("PRstr_QoSAttribSetVerbose")},
+    {.name = "MaxLatency", .bits = 8, .only = if_one("PRstr_QoSAttribSetVerbose")},
+    {.name = "MaxIPPacketLossRate", .bits = 8, .only = if_one("PRstr_QoSAttribSetVerbose")},
+    {.name = "DelayVarSensitive", .bits = 1, .only = if_one("PRstr_QoSAttribSetVerbose")},
 };
+inline constexpr std::size_t kQoSSetRows = std::size(kQoSSetFields);
+inline constexpr auto kQoSSetWithPacketSizeFields = [] {
+  std::array<RecordField, kQoSSetRows + 1> rows{};
+  std::copy(std::begin(kQoSSetFields), std::end(kQoSSetFields) - 1, rows.begin());
+  rows[kQoSSetRows - 1] = {.name = "PacketSize", .bits = 8, .only = if_one("PRstr_QoSAttribSetVerbose")};
+  rows[kQoSSetRows] = kQoSSetFields[kQoSSetRows - 1];
+  return rows;
+}();
+
+/// The profile of type 1: the priority and up to seven attribute sets, each filled up to an octet.
+inline constexpr auto kQoSProfileFields = [] {
+  constexpr Repeated kInEachSet = list_by("PRstr_QoSAttribSetCount", 1);
+  std::array<RecordField, kQoSSetRows + 3> rows{};
+  rows[0] = {.name = "PRstr_FlowPriority", .bits = 4};
+  rows[1] = {.name = "PRstr_QoSAttribSetCount", .bits = 3};
+  for (std::size_t i = 0; i < kQoSSetRows; ++i) {
+    rows[i + 2] = kQoSSetFields[i];
+    rows[i + 2].repeat = kInEachSet;
+  }
+  rows.back() = {.name = "PRstr_ReserveBits", .width = to_octet(), .repeat = kInEachSet, .settable = false};
+  return rows;
+}();
+
+/// What a request's profile holds, for people: attribute sets or FlowProfileIDs.
+std::vector<DissectedField> dissect_requested_profile(std::size_t type, std::string_view whole, Extent profile);
 
 /// Takes the profile apart into the properties of the attribute sets. Error 1 if the profile is not of type 1, or ends
 /// before its last set.
@@ -74,14 +77,16 @@ void decode_profile_type_1(Record& record);
 /// Makes ProfileType, ProfileLength and ProfileValue of these properties.
 void set_profile(Record& record);
 
-inline constexpr std::string_view kNotProfileType1 = "ProfileType is not 1.";
-inline constexpr std::string_view kWrongProfile = "Length of <ProfileValue> field is not correct.";
-inline constexpr std::string_view kDecodeRefusals[] = {kNotProfileType1, kWrongProfile};
+inline constexpr Refusal kDecodeRefusals[] = {
+    {"ProfileType is not 1.", "call with another ProfileType"},
+    {"Length of <ProfileValue> field is not correct.", "call for a profile that ends before its last set"}};
+inline constexpr Refusal kProfileSetRefusals[] = {
+    {"a verbose attribute set", "call with QoSAttribSetVerbose 1", ErrorNumber::InvalidCall}};
 
 inline constexpr ValueOperation kQoSRequestOperations[] = {
     {"Decode_ProfileType1", decode_profile_type_1, "Takes the profile apart into priority and attribute sets.",
      kDecodeRefusals},
-    {"ProfileSet", set_profile, "Makes the profile of priority and attribute sets."},
+    {"ProfileSet", set_profile, "Makes the profile of priority and attribute sets.", kProfileSetRefusals},
 };
 
 /// Of the properties that Decode_ProfileType1 and ProfileSet go between: not sent themselves.
@@ -91,7 +96,7 @@ inline constexpr RecordField kQoSRequestFields[] = {
     kValueIdField,
     kProfileTypeField,
     kProfileLengthField,
-    kProfileValueField,
+    profile_value(dissect_requested_profile),
     {.name = "PRstr_FlowPriority", .bits = 4, .sent = false, .source = kOfProfile, .summary = "Priority of the flow."},
     {.name = "PRstr_QoSAttribSetCount",
      .bits = 3,
@@ -154,13 +159,14 @@ using SB_App_ValReservationKKQoSReqRev = ValueOf<kValReservationKKQoSReqRev>;
 std::string_view granted_set(const Record& record, std::size_t index);
 /// Makes a profile of type 1 that grants a set.
 void let_granted_set(Record& record, std::size_t index, std::string_view bits);
+std::vector<DissectedField> dissect_granted_profile(std::size_t type, std::string_view whole, Extent profile);
 
 template <const std::string_view& Source>
 inline constexpr RecordField kQoSResponseFields[] = {
     kValueIdField,
     kProfileTypeField,
     kProfileLengthField,
-    kProfileValueField,
+    profile_value(dissect_granted_profile),
     {.name = "PRstr_QoSAttribSetID",
      .bits = 7,
      .view = granted_set,

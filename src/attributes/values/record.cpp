@@ -66,9 +66,7 @@ void Record::raise(std::size_t field, At at, std::string_view text) const {
   vorlan::raise(class_->source(field, at), text);
 }
 
-void Record::refuse_index(std::size_t field, At at) const {
-  throw Error(ErrorNumber::SubscriptOutOfRange, class_->source(field, at));
-}
+void Record::refuse_index(std::size_t field, At at) const { throw class_->beyond_count(field, at); }
 
 // --- stored values
 
@@ -130,9 +128,7 @@ void Record::check(std::size_t field, At at, std::string_view value) const {
   const std::size_t wanted = width(field, at.index);
   if (value.size() != wanted) raise(field, at, class_->wrong_length(field, at, wanted));
   const auto printable = [](char c) { return c >= ' ' && c <= '~'; };
-  if (!std::all_of(value.begin(), value.end(), printable)) {
-    throw Error(ErrorNumber::TypeMismatch, class_->source(field, at), "a bit string wanted");
-  }
+  if (!std::all_of(value.begin(), value.end(), printable)) throw class_->no_bit_string(field, at);
   if (!spec.not_settable.empty() && small_value(stored(static_cast<std::size_t>(row.only), {at.index, 0})) == 0) {
     raise(field, at, spec.not_settable);
   }
@@ -203,6 +199,10 @@ std::size_t Record::inner_count(std::size_t field, std::size_t index) const noex
   }
   const auto& rows = lists_[row.slot].rows;
   return index < rows.size() ? rows[index].size() : 0;
+}
+
+bool Record::has(std::size_t field, At at, bool to_set) const noexcept {
+  return to_set ? element(field, at) != nullptr : at.index < count(field) && at.inner < inner_count(field, at.index);
 }
 
 std::string_view Record::get(std::size_t field, At at) const {

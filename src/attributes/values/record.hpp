@@ -37,6 +37,9 @@ class Record {
   [[nodiscard]] std::size_t count(std::size_t field) const noexcept;
   [[nodiscard]] std::size_t inner_count(std::size_t field, std::size_t index) const noexcept;
 
+  /// Whether there is such an element, to be set or to be read.
+  [[nodiscard]] bool has(std::size_t field, At at, bool to_set) const noexcept;
+
   /// The stored value, no check made.
   [[nodiscard]] std::string_view stored(std::size_t field, At at = {}) const noexcept;
   void store(std::size_t field, At at, std::string_view value);

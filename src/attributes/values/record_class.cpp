@@ -9,6 +9,9 @@ namespace vorlan {
 
 namespace {
 
+/// "<nn>" in names of elements, for listings. No index is so large, nor does a negative one become it.
+constexpr At kAnyElement{std::size_t{1} << 30U, std::size_t{1} << 30U};
+
 std::int16_t index_of(std::span<const RecordField> rows, std::string_view name) {
   return name.empty() ? RecordClass::kNone : static_cast<std::int16_t>(find_field(rows, name));
 }
@@ -133,28 +136,72 @@ std::vector<FieldInfo> RecordClass::list_fields() const {
     FieldInfo info{.name = row.name, .width = width_text(row), .condition = condition_text(row)};
     info.origin = row.settable ? "set" : "reserved";
     if (row.settable && row.bits != 0) info.initial = field.initial;
-    if (row.meaning != nullptr) info.unit = row.meaning->summary.empty() ? row.meaning->unit : row.meaning->summary;
+    if (row.meaning != nullptr) info.unit = row.meaning->listed();
     list.push_back(std::move(info));
   }
   return list;
 }
 
+Error RecordClass::beyond_count(std::size_t field, At at) const {
+  return Error(ErrorNumber::SubscriptOutOfRange, source(field, at));
+}
+
+Error RecordClass::no_bit_string(std::size_t field, At at) const {
+  return Error(ErrorNumber::TypeMismatch, source(field, at), "a bit string wanted");
+}
+
+/// The number that a count does not take any more; 0 where it takes all.
+std::size_t RecordClass::too_many(std::size_t field) const {
+  const RecordField& counter = *fields_[field].spec;
+  for (const Field& other : fields_) {
+    const Repeated& repeat = other.spec->repeat;
+    const std::size_t places = repeat.count == counter.name ? repeat.places : repeat.inner_places;
+    const bool counts = repeat.count == counter.name || repeat.inner == counter.name;
+    if (counts && places != 0 && places + 1 < std::size_t{1} << counter.bits) return places + 1;
+  }
+  return 0;
+}
+
 void RecordClass::list_errors(std::vector<ErrorInfo>& errors) const {
+  std::vector<std::string> without_member;  // sources up to their points
   for (std::size_t i = 0; i < fields_.size(); ++i) {
     const RecordField& row = *fields_[i].spec;
+    const std::string from = source(i, kAnyElement);
     const std::string_view not_received = row.not_received.empty() ? texts_.not_received : row.not_received;
     if (row.settable) {
-      const std::string width = row.bits != 0 ? std::to_string(row.bits) : "(" + width_text(row) + ")";
-      errors.push_back({source(i, {}), wrong_length(i, {}, width), "let of another width"});
+      const bool varies = row.width.kind != RecordWidth::Kind::Fixed;
+      const std::string width = varies ? "(" + width_text(row) + ")" : std::to_string(row.bits);
+      errors.push_back(
+          {from, wrong_length(i, kAnyElement, width),
+           varies ? "let of another width, build once " + std::string(bare_name(row.width.field)) + " says another"
+                  : "let of another width"});
+      const std::string front = from.substr(0, from.find('.') + 1);
+      if (std::find(without_member.begin(), without_member.end(), front) == without_member.end()) {
+        without_member.push_back(front);
+      }
     } else if (is_property(row) && row.sent && !not_received.empty()) {
-      errors.push_back({source(i, {}), std::string(not_received), "get before a record is received"});
+      errors.push_back({from, std::string(not_received), "get before a record is received"});
     }
     if (!row.absent.empty()) {
-      errors.push_back({source(i, {}), std::string(row.absent), "get of what the received record does not carry"});
+      errors.push_back({from, std::string(row.absent), "get of what the received record does not carry"});
     }
     if (!row.not_settable.empty()) {
-      errors.push_back({source(i, {}), std::string(row.not_settable), "let while the flag is 0"});
+      errors.push_back({from, std::string(row.not_settable), "let while the flag is 0"});
     }
+    const bool has_accessors_alone = !row.repeat.accessors.empty() && row.repeat.elements.empty();
+    if (is_list(row) && !has_accessors_alone) {
+      errors.push_back(error_info(beyond_count(i, kAnyElement), row.repeat.elements.empty()
+                                                                    ? "get or let beyond the count"
+                                                                    : "get of what a received record has not"));
+    }
+    if (const std::size_t number = too_many(i); number != 0) {
+      errors.push_back(error_info(beyond_count(i, kAnyElement), "let of " + std::to_string(number) + " or more"));
+    }
+  }
+  for (const std::string& front : without_member) {
+    ErrorInfo info = error_info(no_bit_string(0, {}), "let of a text with control or non-ASCII characters");
+    info.source = front + "<property>";
+    errors.push_back(std::move(info));
   }
 }
 
@@ -167,8 +214,12 @@ std::string element_name(std::string_view pattern, At at) {
     pattern.remove_prefix(start);
     const std::size_t run = std::min(pattern.find_first_not_of('#'), pattern.size());
     if (run == 0) break;
-    const std::string digits = std::to_string(static_cast<std::int64_t>(number));  // an index may have been negative
-    name.append(run > digits.size() ? run - digits.size() : 0, '0').append(digits);
+    if (number == kAnyElement.index) {
+      name.append("<").append(run, 'n').append(">");
+    } else {
+      const std::string digits = std::to_string(static_cast<std::int64_t>(number));  // an index may have been negative
+      name.append(run > digits.size() ? run - digits.size() : 0, '0').append(digits);
+    }
     pattern.remove_prefix(run);
     number = at.inner;
   }

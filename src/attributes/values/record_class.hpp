@@ -8,6 +8,7 @@
 
 #include "attributes/values/record_field.hpp"
 #include "automation/class_info.hpp"
+#include "automation/error.hpp"
 #include "codec/extent.hpp"
 
 namespace vorlan {
@@ -71,13 +72,17 @@ class RecordClass {
   [[nodiscard]] std::string wrong_length(std::size_t field, At at, std::size_t width) const;
   [[nodiscard]] std::string wrong_length(std::size_t field, At at, std::string_view width) const;
   [[nodiscard]] std::string source(std::size_t field, At at) const;
+  [[nodiscard]] Error beyond_count(std::size_t field, At at) const;
+  [[nodiscard]] Error no_bit_string(std::size_t field, At at) const;
   [[nodiscard]] const Texts& texts() const noexcept { return texts_; }
 
-  /// What listings show of the rows: the fields that are on the air, and the texts that their properties raise.
+  /// What listings show of the rows: the fields that are on the air, and the errors that their properties raise.
   [[nodiscard]] std::vector<FieldInfo> list_fields() const;
   void list_errors(std::vector<ErrorInfo>& errors) const;
 
  private:
+  [[nodiscard]] std::size_t too_many(std::size_t field) const;
+
   Texts texts_;
   std::vector<Field> fields_;
   std::vector<Group> groups_;

@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-#include "codec/meaning.hpp"
+#include "codec/field_tree.hpp"
 
 namespace vorlan {
 
@@ -83,6 +83,9 @@ struct RecordField {
 
   const Meaning* meaning = nullptr;  ///< unit or codes, for listings and dissection
   std::string_view summary = {};
+  /// Takes apart what the field holds, for dissection; the value of an earlier field says of which kind that is.
+  std::vector<DissectedField> (*inside)(std::size_t kind, std::string_view whole, Extent place) = nullptr;
+  std::string_view kind = {};
 };
 
 constexpr bool is_property(const RecordField& field) noexcept {
@@ -107,6 +110,7 @@ constexpr std::string_view fault(std::span<const RecordField> fields) {
     if (find_field(fields, field.name) != i) return "a field is listed twice";
     if (!earlier(field.width.field)) return "a width depends on a later field";
     if (!earlier(field.only.field)) return "a condition on a later field";
+    if (!earlier(field.kind)) return "insides that depend on a later field";
     if (!earlier(field.repeat.count) || !earlier(field.repeat.inner)) return "a count comes after its list";
     if (field.bits == 0 && field.width.kind == RecordWidth::Kind::Fixed && field.view == nullptr) return "no width";
     if (!field.initial.empty() && field.bits != 0 && field.initial.size() != field.bits) {

@@ -2,19 +2,11 @@
 
 #include <algorithm>
 
+#include "attributes/index_of.hpp"
 #include "automation/error.hpp"
 #include "common/conversions.hpp"
 
 namespace vorlan {
-
-namespace {
-
-/// A negative index is beyond every count.
-std::size_t index_of(const Value& argument) {
-  return static_cast<std::size_t>(static_cast<std::int64_t>(argument.to_integer()));
-}
-
-}  // namespace
 
 AttributeValue::AttributeValue(const ValueClass& value_class)
     : ClassObject(value_class.info()), class_(value_class), record_(value_class.record()) {}
@@ -32,7 +24,7 @@ std::string AttributeValue::build(bool id_alone) const {
 }
 
 std::size_t AttributeValue::length_at(std::string_view bits, std::size_t position) const {
-  if (position == 0) throw Error(ErrorNumber::InvalidCall, class_.source("GetValLengthAt"), "positions begin with 1");
+  if (position == 0) throw class_.no_position();
   const std::string_view rest = bits.substr(std::min(position - 1, bits.size()));
   const std::size_t length = class_.length_at(rest);
   if (length == 0) raise(class_.source("GetValLengthAt"), kWrongValString);
@@ -57,6 +49,7 @@ Value AttributeValue::invoke_field(const ValueClass::Member& member, bool assign
   At at = member.at;
   if (given > 0) at.index = index_of(arguments[0]);
   if (given > 1) at.inner = index_of(arguments[1]);
+  if (!member.accessor.empty() && !record_.has(member.field, at, assigns)) throw class_.outside_grid(member.accessor);
   if (!assigns) return record_.get(member.field, at);
   if (const auto* text = arguments.back().as<std::string>()) {
     record_.let(member.field, at, *text);
@@ -88,7 +81,7 @@ Value AttributeValue::invoke_member(int index, Access access, std::span<Value> a
     case ValueClass::Action::FlowNumber: {
       if (!assigns) return static_cast<std::int16_t>(small_value(record_.stored(member.field)));
       const std::int16_t number = arguments[0].to_integer();
-      if (number < 0 || number > 255) throw Error(ErrorNumber::InvalidCall, {}, "a flow from 0 to 255");
+      if (number < 0 || number > 255) throw class_.no_flow();
       record_.let(member.field, {}, dec_to_bin(number, 8));
       return {};
     }

@@ -23,6 +23,18 @@ std::string ValueClass::source(std::string_view member) const {
   return std::string(record_.texts().source).append(".").append(member);
 }
 
+Error ValueClass::no_position() const {
+  return Error(ErrorNumber::InvalidCall, source("GetValLengthAt"), "positions begin with 1");
+}
+
+Error ValueClass::no_flow() const {
+  return Error(ErrorNumber::InvalidCall, std::string(spec_.name) + ".PRint_FlowNN", "a flow from 0 to 255");
+}
+
+Error ValueClass::outside_grid(std::string_view accessor) const {
+  return Error(ErrorNumber::SubscriptOutOfRange, source(accessor));
+}
+
 std::vector<std::size_t> ValueClass::split(std::string_view bits) const {
   const auto equal_parts = [&](std::size_t width) { return std::vector(bits.size() / width, width); };
   if (const std::size_t width = record_.fixed_bits(); width != 0) {
@@ -43,8 +55,9 @@ std::vector<std::size_t> ValueClass::split(std::string_view bits) const {
 }
 
 void ValueClass::add(Action action, std::size_t field, At at, MemberInfo member) {
+  const bool is_accessor = action == Action::GetElement || action == Action::LetElement;
+  members_.push_back({action, static_cast<std::uint16_t>(field), at, is_accessor ? member.name : std::string_view{}});
   listed_.push_back(std::move(member));
-  members_.push_back({action, static_cast<std::uint16_t>(field), at});
 }
 
 /// The members of a list or table that is reached by the numbers of its elements: a property for each, or two methods.
@@ -177,10 +190,20 @@ std::vector<ErrorInfo> ValueClass::list_errors() const {
         {source("PRbln_ValFlag"), std::string(spec_.not_received), "let True before a record is received"});
   }
   record_.list_errors(errors);
-  if (spec_.tells_length) errors.push_back({source("GetValLengthAt"), wrong, "call for a record that is cut off"});
+  for (const Member& member : members_) {
+    if (member.accessor.empty()) continue;
+    errors.push_back(error_info(outside_grid(member.accessor), "call with an index that is not there"));
+  }
+  if (spec_.has_flow_number) errors.push_back(error_info(no_flow(), "let of another number"));
+  if (spec_.tells_length) {
+    errors.push_back({source("GetValLengthAt"), wrong, "call for a record that is cut off"});
+    errors.push_back(error_info(no_position(), "call with a position below 1"));
+    errors.push_back(error_info(Error(ErrorNumber::Overflow, std::string(spec_.name) + ".GetValLengthAt"),
+                                "call for a record of more than 32767 bits"));
+  }
   for (const ValueOperation& operation : spec_.operations) {
-    for (const std::string_view text : operation.refusals) {
-      errors.push_back({source(operation.name), std::string(text), "call"});
+    for (const Refusal& refusal : operation.refusals) {
+      errors.push_back(error_info(refusal.error(source(operation.name)), refusal.when));
     }
   }
   return errors;

@@ -34,6 +34,7 @@ class ValueClass {
     Action action;
     std::uint16_t field = 0;  ///< or the operation
     At at = {};
+    std::string_view accessor = {};  ///< the method's name
   };
 
   [[nodiscard]] const ValueSpec& spec() const noexcept { return spec_; }
@@ -43,6 +44,9 @@ class ValueClass {
   /// The fields and elements that the set operation takes, in its order.
   [[nodiscard]] std::span<const Member> settable() const noexcept { return settable_; }
   [[nodiscard]] std::string source(std::string_view member) const;
+  [[nodiscard]] Error no_position() const;  ///< GetValLengthAt
+  [[nodiscard]] Error no_flow() const;      ///< PRint_FlowNN
+  [[nodiscard]] Error outside_grid(std::string_view accessor) const;
 
   /// The length in bits of the value record at the start of `bits`; 0 if the bits end before it does.
   [[nodiscard]] std::size_t length_at(std::string_view bits) const { return record_.length_at(bits); }

@@ -11,12 +11,23 @@ namespace vorlan {
 /// PRstr_ValString and GetValLengthAt: of a record that ends before its last field.
 inline constexpr std::string_view kWrongValString = "Length of ValString is not correct.";
 
+/// An error of a method: the text of error 1, or what is said behind the standard description of another one.
+struct Refusal {
+  std::string_view text;
+  std::string_view when;
+  ErrorNumber number = ErrorNumber::Failed;
+
+  [[nodiscard]] Error error(std::string_view source) const {
+    return number == ErrorNumber::Failed ? Error(1, source, text) : Error(number, source, text);
+  }
+};
+
 /// A method that a class has of its own. It takes no arguments.
 struct ValueOperation {
   std::string_view name;
   void (*run)(Record& record);
   std::string_view summary;
-  std::span<const std::string_view> refusals = {};  ///< its texts, for listings
+  std::span<const Refusal> refusals = {};
 };
 
 /// One class. Its record begins with the 8-bit ValueID.
