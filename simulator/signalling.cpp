@@ -51,8 +51,7 @@ std::int32_t Signalling::add_filter(std::int16_t message_id, std::int16_t messag
   }
   if (capacity < 1) throw Error(ErrorNumber::InvalidCall, {}, "a filter holds one message at least");
   catch_up();
-  filters_[next_filter_] = {
-      static_cast<std::uint8_t>(message_id), protocol_type, static_cast<std::size_t>(capacity), {}};
+  filters_[next_filter_] = {0xFF, message_id, protocol_type, static_cast<std::size_t>(capacity), {}};
   return next_filter_++;
 }
 
@@ -72,7 +71,13 @@ void Signalling::remove_filter(std::int32_t handle) {
 void Signalling::hand_out(Arrival arrival) {
   bool taken = false;
   for (auto& [handle, one] : filters_) {
-    if (one.protocol != arrival.protocol || arrival.octets.empty() || one.message_id != arrival.octets[0]) continue;
+    if (one.protocol != arrival.protocol || arrival.octets.empty()) continue;
+    if ((arrival.octets[0] & one.mask) != one.message_id) continue;
+    if (is_answer(handle)) {
+      if (!one.waiting.empty()) continue;
+      one.waiting.push_back(std::move(arrival));
+      return;
+    }
     if (one.waiting.size() == one.capacity) one.waiting.pop_front();
     one.waiting.push_back(arrival);
     taken = true;
@@ -84,30 +89,37 @@ void Signalling::catch_up() {
   while (auto arrival = simulation_->next_arrival(simulation_->now())) hand_out(std::move(*arrival));
 }
 
-void Signalling::take(const std::string& label, Arrival arrival) {
-  arrival.traced->label = label;
-  messages_->objects.put(label, make<MessageObject>(arrival.octets));
-  fetched_ = std::move(arrival.octets);
+std::optional<Arrival> Signalling::next_in(std::int32_t handle, std::chrono::milliseconds until) {
+  // Looked up each time: in real time other calls run during the wait. They hand out what arrives, and may drop the
+  // filter.
+  while (filter(handle).waiting.empty()) {
+    const bool over = simulation_->now() >= until;
+    if (auto arrival = simulation_->next_arrival(until)) {
+      hand_out(std::move(*arrival));
+    } else if (over) {
+      return std::nullopt;
+    }
+  }
+  auto& waiting = filter(handle).waiting;
+  Arrival oldest = std::move(waiting.front());
+  waiting.pop_front();
+  return oldest;
+}
+
+bool Signalling::take(const std::string& label, std::optional<Arrival> arrival) {
+  fetched_.clear();
+  if (!arrival) return false;
+  arrival->traced->label = label;
+  messages_->objects.put(label, make<MessageObject>(arrival->octets));
+  fetched_ = std::move(arrival->octets);
+  return true;
 }
 
 bool Signalling::wait_for_message(const std::string& label, std::int32_t handle, std::int16_t time_out) {
   filter(handle);
   const auto until = simulation_->now() + time_out * kTimeOutUnit;
   catch_up();
-  // Looked up each time: in real time other calls run during the wait, and may drop the filter.
-  while (filter(handle).waiting.empty()) {
-    auto arrival = simulation_->next_arrival(until);
-    if (!arrival) {
-      fetched_.clear();
-      return false;
-    }
-    hand_out(std::move(*arrival));
-  }
-  auto& waiting = filter(handle).waiting;
-  Arrival oldest = std::move(waiting.front());
-  waiting.pop_front();
-  take(label, std::move(oldest));
-  return true;
+  return take(label, next_in(handle, until));
 }
 
 std::string Signalling::fetch_message() const {
@@ -130,17 +142,12 @@ bool Signalling::send_and_wait(const std::string& label, std::int16_t, std::int1
   messages_->objects.put(label, std::move(message));
   catch_up();  // what came before is no answer
   const auto until = simulation_->now() + time_out * kTimeOutUnit;
+  const std::int32_t handle = next_answer_++;
+  constexpr int kCode = 0xF;
+  filters_[handle] = {kCode, answer_code & kCode, protocol_type, 1, {}};
+  const std::shared_ptr<void> dropped(nullptr, [&](void*) { filters_.erase(handle); });
   simulation_->transmit(protocol_type, label, std::move(octets));
-  while (auto arrival = simulation_->next_arrival(until)) {
-    if (arrival->protocol == protocol_type && !arrival->octets.empty() &&
-        (arrival->octets[0] & 0xF) == (answer_code & 0xF)) {
-      take(answer_label, std::move(*arrival));
-      return true;
-    }
-    hand_out(std::move(*arrival));
-  }
-  fetched_.clear();
-  return false;
+  return take(answer_label, next_in(handle, until));
 }
 
 Ref<Object> Signalling::create_message_object() const { return make<MessageObject>(); }

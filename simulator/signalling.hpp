@@ -2,6 +2,8 @@
 #pragma once
 
 #include <deque>
+#include <iterator>
+#include <limits>
 #include <map>
 
 #include "simulator/channels/keyed_objects.hpp"
@@ -36,7 +38,9 @@ class Signalling final : public BoundObject<Signalling> {
 
   Ref<Object> create_message_object() const;
   [[nodiscard]] Ref<Object> messages() const { return messages_; }
-  [[nodiscard]] std::int16_t filters() const noexcept { return static_cast<std::int16_t>(filters_.size()); }
+  [[nodiscard]] std::int16_t filters() const noexcept {
+    return static_cast<std::int16_t>(std::distance(filters_.lower_bound(kFirstFilter), filters_.end()));
+  }
 
   static constexpr ClassInfo::Texts texts() {
     return {"Signalling", "A simulated test set's signalling object: sends, filters and waits for messages.", ""};
@@ -44,8 +48,11 @@ class Signalling final : public BoundObject<Signalling> {
   static std::span<const BoundMember> members();
 
  private:
+  static constexpr std::int32_t kFirstFilter = 1;
+
   struct Filter {
-    std::uint8_t message_id;
+    int mask;  ///< of the MessageID
+    int message_id;
     int protocol;
     std::size_t capacity;
     std::deque<Arrival> waiting;
@@ -56,11 +63,17 @@ class Signalling final : public BoundObject<Signalling> {
   void hand_out(Arrival arrival);
   /// Hands out what has arrived up to now.
   void catch_up();
-  void take(const std::string& label, Arrival arrival);
+  /// The oldest message in a filter, waiting up to then for one.
+  std::optional<Arrival> next_in(std::int32_t filter, std::chrono::milliseconds until);
+  /// Makes an arrival the message waited for last; whether there is one.
+  bool take(const std::string& label, std::optional<Arrival> arrival);
+  [[nodiscard]] static bool is_answer(std::int32_t filter) noexcept { return filter < kFirstFilter; }
 
   std::shared_ptr<Simulation> simulation_;
+  /// An answer is waited for by a filter, too, in front of the script's own: it takes one message, which no other gets.
   std::map<std::int32_t, Filter> filters_;
-  std::int32_t next_filter_ = 1;
+  std::int32_t next_filter_ = kFirstFilter;
+  std::int32_t next_answer_ = std::numeric_limits<std::int32_t>::min();
   Octets fetched_;
   Ref<KeyedCollection> messages_ = make<KeyedCollection>();
 };

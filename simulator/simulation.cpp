@@ -40,11 +40,15 @@ void Simulation::transmit(int protocol, std::string label, Octets octets) {
 }
 
 std::optional<Arrival> Simulation::next_arrival(Milliseconds until) {
-  // In real time other calls run during a wait: they may send, and take what was on its way.
   const auto is_due = [&](Milliseconds time) { return !air_.empty() && air_.front().due <= time; };
-  while (!is_due(std::min(now(), until))) {
-    if (now() >= until && !is_due(until)) return std::nullopt;
-    wait_until(is_due(until) ? air_.front().due : until);
+  const auto has_come = [&] { return is_due(std::min(now(), until)); };
+  if (!has_come()) {
+    if (now() >= until) return std::nullopt;
+    Milliseconds then = is_due(until) ? air_.front().due : until;
+    // Other calls run meanwhile: they may send what is answered sooner, and take what was on its way.
+    if (real_time()) then = std::min(then, now() + kTimeOutUnit);
+    wait(then - now());
+    if (!has_come()) return std::nullopt;
   }
   OnItsWay next = std::move(air_.front());
   air_.erase(air_.begin());

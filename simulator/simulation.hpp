@@ -41,7 +41,8 @@ class Simulation {
 
   /// A message of the access network; the terminal has it at once.
   void transmit(int protocol, std::string label, Octets octets);
-  /// The terminal's next message that arrives up to then, waiting until it does; else nothing, and it is then.
+  /// The terminal's next message that arrives up to then, waiting until it does. Nothing: it is then, or in real time
+  /// one of many short waits is over.
   std::optional<Arrival> next_arrival(Milliseconds until);
 
   Trace trace;
@@ -53,8 +54,6 @@ class Simulation {
     Milliseconds due;
     TerminalMessage message;
   };
-
-  void wait_until(Milliseconds then) { wait(then - now()); }
 
   std::shared_ptr<SimulatedClock> clock_;
   Milliseconds began_;

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "common/classes.hpp"
 #include "common/sector_identity.hpp"
 #include "support/fake_platform.hpp"
 #include "support/print_value.hpp"
@@ -14,15 +13,6 @@ namespace vorlan {
 namespace {
 
 using test::raised_by;
-
-TEST(GeneralFunctions, IsCreatedByName) {
-  test::FakePlatform fake;
-  const auto classes = common_classes();
-  const ClassTable table{"Vorlan", classes};
-  const auto functions = Registry({&table, 1}).create("Vorlan.sb_generalfunctions", fake.platform);
-  EXPECT_EQ(functions->class_info()->name(), "SB_GeneralFunctions");
-  EXPECT_EQ(functions->call("LONGTOBIN", 1, 2), Value("01"));
-}
 
 // A call must not copy a long bit string, nor put another object in the place of the caller's.
 TEST(GeneralFunctions, MessageArgumentsStayTheCallersOwn) {

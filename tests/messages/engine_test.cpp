@@ -124,21 +124,6 @@ TEST(MessageEngine, SurvivesAConfigurationThatCallsBack) {
   EXPECT_EQ(assignment.encode(colour).size(), 176U);
 }
 
-TEST(MessageEngine, JoinsMessagesOfAnyLength) {
-  SB_Ses_MsgSessionClose message;
-  message.initialize();
-  message.let<"PRstr_CloseReason">("00000000");
-  message.let<"PRstr_MoreInfoLen">("11111111");
-  std::string info;
-  for (int octet = 0; octet < 255; ++octet) info += octet % 3 == 0 ? "10010110" : "01111010";
-  message.let<"PRstr_MoreInfo">(info);
-  EXPECT_EQ(message.encode(),
-            "00000001"
-            "00000000"
-            "11111111" +
-                info);
-}
-
 TEST(Dissection, NamesFieldsAndUnits) {
   const auto tree = dissect(SB_Ses_MsgSessionClose::shared_class(), bits_of("01 06 01"));
   ASSERT_EQ(tree.size(), 4U);

@@ -121,63 +121,7 @@ TEST(MultiFlowMessages, ReadWhatACutOffMessageHas) {
   EXPECT_EQ(read("ReservationOnRequest", "16 03 02", "PRstr_Link(1)"), "");
   EXPECT_EQ(error_number([&] { read("ReservationOnRequest", "16 03 02 FF 80", "PRstr_Link(2)"); }), 9);
   EXPECT_EQ(read("StorageBLOBNotification", "11 12 34 03 AB", "PRstr_StorageBLOB"), "10101011");
-}
-
-TEST(MultiFlowMessages, RaiseTheseTextsForAWrongWidth) {
-  struct Case {
-    const char* name;
-    const char* member;
-    const char* text;
-    const char* value = "0000000";  // as wide as none of the fields
-  };
-  const char* const kTransactionId = "Length of TransactionId string should be 8 bits.";
-  const char* const kFlow = "Length of <RLPFlow> Field should be 5 bits.";
-  const Case cases[] = {
-      {"DataOverSignaling", "PRstr_AckRequired", "Length of <AckRequired> Field should be 1 bit."},
-      {"DataOverSignaling", "PRstr_Reset", "Length of <Reset> Field should be 1 bit."},
-      {"DataOverSignaling", "PRstr_MessageSequence", "Length of <MessageSequence> Field should be 6 bits."},
-      {"DataOverSignaling", "PRstr_HigherLayerPacket", "Length of <HigherLayerPacket> Field should be a mutiple of 8."},
-      {"DataOverSignalingAck", "PRstr_Reserved", "Length of <Reserved> Field should be 2 bit."},
-      {"ResetTxIndication", "PRstr_RLPFlow", kFlow},
-      {"ResetTxComplete", "PRstr_RLPFlow", kFlow},
-      {"EmfpaDataOverSignaling", "PRstr_LinkFlowNumber", "Length of <LinkFlowNumber> Field should be 5 bit."},
-      {"EmfpaDataOverSignaling", "PRstr_HigherLayerPacket",
-       "Length of <HigherLayerPacket> Field should be a mutiple of 8."},
-      {"EmfpaResetRxComplete", "PRstr_LinkFlowNumber", "Length of <LinkFlowNumber> Field should be 5 bits."},
-      {"EmfpaDataOverSignalingAck", "PRstr_Route", "Length of <Route> Field should be 1 bits."},
-      {"RouteSelect", "PRstr_Route", "Length of <Route> field should be 4 bits .", "1"},
-      {"ActivateRoute", "PRstr_TransactionId", "Length of <TransactionId> field should be 8 bits ."},
-      {"AttributeUpdateReject", "PRstr_TransactionId", kTransactionId},
-      {"ReservationReject", "PRstr_TransactionId", kTransactionId},
-      {"RevReservationOn", "PRstr_TransactionId", kTransactionId},
-      {"RevReservationOff", "PRstr_ReservationCount", "Length of ReservationCount string should be 8 bits."},
-      {"ReservationReject", "PRstr_Link", "Length of Link string should be 1 bit."},
-      {"ReservationReject", "PRstr_AllowableReservationLabel",
-       "Length of <AllowableReservationLabel> Field should be 8 bits."},
-      {"RevReservationOn", "PRstr_ReservationLabel", "Length of <ReservationLabel> Field should be 8 bits."},
-      {"StorageBLOBAsgnmnt", "PRstr_StorageBLOBType", "Length of <StorageBLOBType> Field should be 16 bits."},
-      {"StorageBLOBAsgnmnt", "PRstr_StorageBLOBLength", "Length of <StorageBLOBLength> Field should be 8 bits."},
-      {"StorageBLOBAsgnmnt", "PRstr_StorageBLOB", "Length of <StorageBLOB> Field should be 8 bits.",
-       "1010101011110000"},
-      {"RestartNetworkInterface", "PRstr_TransactionId", "Length of <TransactionID> should be 8 bits."},
-  };
-  for (const Case& c : cases) {
-    expect_text(c.name, kPrefix, c.member, c.value, {1, std::string(kPrefix) + c.name + "." + c.member, c.text});
-  }
-}
-
-TEST(MultiFlowMessages, RaiseTheseTextsOutOfOrder) {
-  expect_text("DataOverSignaling", kPrefix, "CreateMessage", "()",
-              {1, "SB_App_MsgDataOverSignaling.CreateMessage",
-               "Class not initialized. Please Call <Initialize> of DataOverSignaling Message first."});
-  expect_text("DataOverSignalingAck", kPrefix, "PRstr_MessageString", nullptr,
-              {1, "SB_App_MsgDataOverSignalingAck.PRstr_MessageString",
-               "DataOverSignalingAck message object set to nothing.Please set <PRobj_MessageObject> Property first"});
-  expect_text(
-      "ReservationOffRequest", kPrefix, "PRstr_TransactionId", nullptr,
-      {1, "SB_App_MsgReservationOffRequest.PRstr_TransactionId",
-       "ReservationOffRequest Message object set to nothing. Please set <PRobj_MessageObject> property first."});
-  EXPECT_EQ(create("StorageBLOBComplete", kPrefix)->get("PRstr_MessageID").to_text(), "00010011");
+  EXPECT_EQ(create("StorageBLOBComplete", kPrefix)->get("PRstr_MessageID").to_text(), "00010011") << "before any";
 }
 
 }  // namespace

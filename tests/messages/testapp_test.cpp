@@ -109,59 +109,5 @@ TEST(ApplicationData, TellsAWrongPayloadInDescriptionAndHelpFile) {
   }
 }
 
-TEST(TestApplicationAndStreamMessages, RaiseTheseTexts) {
-  struct Case {
-    const char* name;
-    const char* member;
-    const char* value;
-    const char* text;
-    const char* source = "";
-  };
-  const char* const kField = "Length of <TransactionID> Field should be 8 bits.";
-  const char* const kClear =
-      "FTAPStatsClearResponse message Object Set To Nothing. Please set PRobj_MessageObject property first.";
-  const char* const kGet =
-      "FTAPStatsGetResponse message Object Set To Nothing. Please set PRobj_MessageObject property first.";
-  const Case cases[] = {
-      {"TAS_MsgFTAPParameterAssignment", "CreateMessage", "()",
-       "Class not initialized. Please call <Initialize> of FTAPParameterAssignment Message first."},
-      {"TAS_MsgFTAPParameterAssignment", "PRstr_TransactionID", "1",
-       "Length of <TransactionID> field should be 8 bits."},
-      {"TAS_MsgFTAPStatsClearRequest", "CreateMessage", "()",
-       "Class not initialized. Please Call <Initialize> of SB_TAS_MsgFTAPStatsClearRequest Message first."},
-      {"TAS_MsgFTAPStatsClearRequest", "PRstr_TransactionID", "1", kField},
-      {"TAS_MsgFTAPStatsGetRequest", "CreateMessage", "()",
-       "Class not initialized. Please Call <Initialize> of SB_TAS_MsgFTAPStatsGetRequest Message first."},
-      {"TAS_MsgFTAPStatsGetRequest", "PRstr_TransactionID", "1", kField},
-      {"TAS_MsgRTAPParameterAssignment", "CreateMessage", "()",
-       "Class not initialized. Please Call <Initialize> of SB_TAS_MsgRTAPParameterAssignment Message first."},
-      {"TAS_MsgRTAPParameterAssignment", "PRstr_TransactionID", "1", kField},
-      {"TAS_MsgFTAPParameterComplete", "PRstr_TransactionId", nullptr,
-       "FTAPParameterComplete Message Object Set To Nothing. Please set <PRobj_MessageObject> property first."},
-      {"TAS_MsgFTAPStatsClearResponse", "PRstr_MessageID", nullptr, kClear},
-      {"TAS_MsgFTAPStatsClearResponse", "PRstr_MessageString", nullptr, kClear},
-      {"TAS_MsgFTAPStatsGetResponse", "PRstr_MessageString", nullptr,
-       "FTAPStatsGetResponse Message Object Set To Nothing. Please set <PRobj_MessageObject> property first."},
-      {"TAS_MsgFTAPStatsGetResponse", "PRstr_MessageID", nullptr, kGet},
-      {"TAS_MsgFTAPStatsGetResponse", "PRstr_IdleASPStatsAttr", nullptr, kGet},
-      {"TAS_MsgRTAPParameterComplete", "PRstr_MessageID", nullptr,
-       "MsgResetAck message Object Set To Nothing. Please set PRobj_MessageObject property first."},
-      {"TAS_MsgRTAPParameterComplete", "PRstr_TransactionID", nullptr,
-       "RTAPParameterComplete message Object Set To Nothing. Please set PRobj_MessageObject property first."},
-      {"Str_MsgApplicationData", "CreateMessage", "()",
-       "Class not initialized. Please Call <Initialize> of ApplicationData Message first.",
-       "SB_App_MsgApplicationData"},
-      {"Str_MsgApplicationData", "PRstr_VirtualStream", "0000000", "Length of <VirtualStream> Field should be 8 bits.",
-       "SB_App_MsgApplicationData"},
-      {"Str_MsgApplicationData", "PRstr_MessageString", nullptr,
-       "ApplicationData Message object set to Nothing. Please set <PRobj_MessageObject> property first.",
-       "SB_App_MsgApplicationData"},
-  };
-  for (const Case& c : cases) {
-    const std::string source = *c.source != '\0' ? c.source : std::string("SB_") + c.name;
-    expect_text(c.name, "SB_", c.member, c.value, {1, source + "." + c.member, c.text});
-  }
-}
-
 }  // namespace
 }  // namespace vorlan::test

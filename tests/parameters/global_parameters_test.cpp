@@ -37,55 +37,34 @@ class Configured : public ::testing::Test {
 };
 
 TEST_F(Configured, WidthsOfBitStrings) {
-  constexpr std::pair<const char*, std::size_t> kWidths[] = {
-      {"SystemType", 8},
-      {"MaximumRevision", 8},
-      {"MinimumRevision", 8},
-      {"ColorCode", 8},
-      {"CountryCode", 12},
-      {"SectorSignature", 16},
-      {"AccessSignature", 16},
-      {"PilotPN", 9},
-      {"SID", 15},
-      {"NID", 16},
-      {"SameChnl_PilotAdd", 6},
-      {"SameChnl_PilotCompare", 6},
-      {"SameChnl_PilotDrop", 6},
-      {"SameChnl_PilotDropTimer", 4},
-      {"DiffChnl_PilotAdd", 6},
-      {"DiffChnl_PilotCompare", 6},
-      {"DiffChnl_PilotDrop", 6},
-      {"DiffChnl_PilotDropTimer", 4},
-      {"SoftSlope", 6},
-      {"AddIntercept", 6},
-      {"DropIntercept", 6},
-      {"NeighborMaxAge", 4},
-      {"SubnetMask", 8},
-      {"Longitude", 23},
-      {"Latitude", 22},
-      {"RouteUpdateRadius", 11},
-      {"RevLinkSilenceDuration", 2},
-      {"RevLinkSilencePeriod", 2},
-      {"LocationType", 8},
-      {"TAS_DRCValue", 8},
-      {"TAS_DRCCover", 8},
-      {"TAS_ACKChannelBit", 8},
-      {"TAS_LoopBackPersistence", 8},
-      {"TAS_MinRate", 8},
-      {"TAS_MaxRate", 8},
-      {"TAS_RTAPTestPacketPersistence", 8},
-      {"UATI", 128},
-      {"SectorID", 32},
-      {"SectorID63_32", 32},
-      {"SectorID95_64", 32},
-      {"SectorID127_96", 32},
+  const std::pair<std::size_t, std::vector<const char*>> widths[] = {
+      {2, {"RevLinkSilenceDuration", "RevLinkSilencePeriod"}},
+      {4, {"SameChnl_PilotDropTimer", "DiffChnl_PilotDropTimer", "NeighborMaxAge"}},
+      {6,
+       {"SameChnl_PilotAdd", "SameChnl_PilotCompare", "SameChnl_PilotDrop", "DiffChnl_PilotAdd",
+        "DiffChnl_PilotCompare", "DiffChnl_PilotDrop", "SoftSlope", "AddIntercept", "DropIntercept"}},
+      {8,
+       {"SystemType", "MaximumRevision", "MinimumRevision", "ColorCode", "SubnetMask", "LocationType", "TAS_DRCValue",
+        "TAS_DRCCover", "TAS_ACKChannelBit", "TAS_LoopBackPersistence", "TAS_MinRate", "TAS_MaxRate",
+        "TAS_RTAPTestPacketPersistence"}},
+      {9, {"PilotPN"}},
+      {11, {"RouteUpdateRadius"}},
+      {12, {"CountryCode"}},
+      {15, {"SID"}},
+      {16, {"SectorSignature", "AccessSignature", "NID"}},
+      {22, {"Latitude"}},
+      {23, {"Longitude"}},
+      {32, {"SectorID", "SectorID63_32", "SectorID95_64", "SectorID127_96"}},
+      {128, {"UATI"}},
   };
   store_->call("Initialize", "SECTOR 0");
-  for (const auto& [key, width] : kWidths) {
+  for (const auto& [width, keys] : widths) {
     const std::string one = std::string(width - 1, '0') + "1";
-    const std::string property = std::string("PRstr_") + key;
-    EXPECT_EQ(store_->get(property, "SECTOR 0"), Value(one)) << key;
-    EXPECT_EQ(store_->get(property), Value(one)) << key;
+    for (const char* key : keys) {
+      const std::string property = std::string("PRstr_") + key;
+      EXPECT_EQ(store_->get(property, "SECTOR 0"), Value(one)) << key;
+      EXPECT_EQ(store_->get(property), Value(one)) << key;
+    }
   }
 }
 
@@ -141,57 +120,36 @@ TEST_F(Configured, LiveErrorsLeaveALineAndReachTheCaller) {
     const char* property;
     const char* sector;
     const char* value;
-    test::Raised raised;
+    const char* text;
+    std::string source = "";  ///< none: the property
   };
-  const std::string uati =
+  const char* const uati =
       "The maximum value for UATI that can be handled currently is limited to signed Long precision (2 raised to power "
       "31 - 1).";
+  const std::string own = "SB_GlobalParameters";
+  const std::string conversion = "SB_GeneralFunctions.LongToBin";
   const Case cases[] = {
-      {"PRint_BandClass", "SECTOR 6", "1", {1, "SB_GlobalParameters", "Sector Name: SECTOR 6 is invalid"}},
-      {"PRint_BandClass", "sector 0", "1", {1, "SB_GlobalParameters", "Sector Name: sector 0 is invalid"}},
-      {"PRstr_UATI", "SECTOR 0", "2147483648", {1, "SB_GlobalParameters.PRstr_UATI", uati}},
-      {"PRstr_SectorID",
-       "SECTOR 0",
-       "4294967296",
-       {1, "SB_GlobalParameters.PRstr_SectorID", "The value for SectorID should be set between 0 and 4294967295"}},
-      {"PRstr_SectorID63_32",
-       "SECTOR 0",
-       "4294967296",
-       {1, "SB_GlobalParameters.PRstr_SectorID63_32",
-        "The value for SectorID63_32 should be set bewteen 0 and 4294967295 "}},
-      {"PRstr_SectorID95_64",
-       "SECTOR 0",
-       "99999999999",
-       {1, "SB_GlobalParameters.PRstr_SectorID95_64",
-        "The value for SectorID63_32 should be set between 0 and 4294967295 "}},
-      {"PRstr_SectorID127_96",
-       "SECTOR 0",
-       "4294967296",
-       {1, "SB_GlobalParameters.PRstr_SectorID127_96",
-        "The value for SectorID127_96 should be between 1 and 4294967295."}},
-      {"PRstr_ColorCode",
-       "SECTOR 0",
-       "256",
-       {1, "SB_GeneralFunctions.LongToBin", "The given value: 256 cannot be converted into 8 bit length."}},
-      {"PRstr_Longitude",
-       "SECTOR 0",
-       "-1",
-       {1, "SB_GeneralFunctions.LongToBin", "The given value: -1 cannot be converted into 23 bit length."}},
-      {"PRstr_SectorID",
-       "SECTOR 0",
-       "-1",
-       {1, "SB_GeneralFunctions.LongToBin", "The given value: -1 cannot be converted into 32 bit length."}},
-      {"PRbln_BitSequenceRepeating",
-       "SECTOR 1",
-       "1",
-       {1, "SB_GlobalParameters.PRbln_BitSequenceRepeating",
-        "BitSequenceRepeating value is BitSequence script specific and can be accesssed from SECTOR 0 only."}},
+      {"PRint_BandClass", "SECTOR 6", "1", "Sector Name: SECTOR 6 is invalid", own},
+      {"PRint_BandClass", "sector 0", "1", "Sector Name: sector 0 is invalid", own},
+      {"PRstr_UATI", "SECTOR 0", "2147483648", uati},
+      {"PRstr_SectorID", "SECTOR 0", "4294967296", "The value for SectorID should be set between 0 and 4294967295"},
+      {"PRstr_SectorID63_32", "SECTOR 0", "4294967296",
+       "The value for SectorID63_32 should be set bewteen 0 and 4294967295 "},
+      {"PRstr_SectorID95_64", "SECTOR 0", "99999999999",
+       "The value for SectorID63_32 should be set between 0 and 4294967295 "},
+      {"PRstr_SectorID127_96", "SECTOR 0", "4294967296",
+       "The value for SectorID127_96 should be between 1 and 4294967295."},
+      {"PRstr_ColorCode", "SECTOR 0", "256", "The given value: 256 cannot be converted into 8 bit length.", conversion},
+      {"PRstr_Longitude", "SECTOR 0", "-1", "The given value: -1 cannot be converted into 23 bit length.", conversion},
+      {"PRstr_SectorID", "SECTOR 0", "-1", "The given value: -1 cannot be converted into 32 bit length.", conversion},
+      {"PRbln_BitSequenceRepeating", "SECTOR 1", "1",
+       "BitSequenceRepeating value is BitSequence script specific and can be accesssed from SECTOR 0 only."},
   };
   for (const Case& c : cases) {
-    const std::string key = std::string(c.property).substr(6);
-    reader_->values[key] = c.value;
+    reader_->values[std::string(c.property).substr(6)] = c.value;
     fake_.debug->lines.clear();
-    EXPECT_EQ(test::raised_by([&] { store_->get(c.property, c.sector); }), c.raised);
+    EXPECT_EQ(test::raised_by([&] { store_->get(c.property, c.sector); }),
+              (test::Raised{1, c.source.empty() ? own + "." + c.property : c.source, c.text}));
     EXPECT_EQ(fake_.debug->lines, Lines{std::string("SB_GlobalParameters::") + c.property + " - Exception raised."});
   }
   reader_->values["UATI"] = "2147483647";
@@ -210,32 +168,28 @@ TEST_F(Configured, AFailedInitializeChangesNothingAndMayBeRepeated) {
   struct Case {
     const char* key;
     const char* value;
-    test::Raised raised;
-  };
-  const auto invalid = [](const char* label) {
-    return test::Raised{1, "SB_GlobalParameters.InvalidParameter",
-                        std::string(label) + " script parameter has an invalid value"};
+    std::string invalid;    ///< what has an invalid value
+    const char* text = "";  ///< or what is said instead
   };
   const Case cases[] = {
-      {"ColorCode", "256", invalid("ColorCode")},
-      {"BandClass", "x", invalid("BandClass, SECTOR 3")},
-      {"FwdFreqAdjustment", "x", invalid("FwdFreqAdjustment, SECTOR 3")},
-      {"SessionKeyLength", "512", invalid("SessionKeyLength [Valid values: 768/1024]")},
-      {"AuthenticationKeyLength", "65536", invalid("AuthenticationKeyLength [Valid range: 0 to 65535]")},
-      {"UATI", "abc", invalid("UATI, SECTOR 3")},
-      {"MACLayCCSubType(ScriptPersonality 1,BaseStation 2,Sector 2)", "x", invalid("MACLayCCSubType")},
-      {"SectorID",
-       "4294967296",
-       {1, "SB_GlobalParameters.Initialize", "The value for SectorID should be between 1 and 4294967295"}},
-      {"SectorID127_96",
-       "4294967296",
-       {1, "SB_GlobalParameters.Initialize", "The value for SectorID127_96 should be between 0 and 4294967295."}},
+      {"ColorCode", "256", "ColorCode"},
+      {"BandClass", "x", "BandClass, SECTOR 3"},
+      {"FwdFreqAdjustment", "x", "FwdFreqAdjustment, SECTOR 3"},
+      {"SessionKeyLength", "512", "SessionKeyLength [Valid values: 768/1024]"},
+      {"AuthenticationKeyLength", "65536", "AuthenticationKeyLength [Valid range: 0 to 65535]"},
+      {"UATI", "abc", "UATI, SECTOR 3"},
+      {"MACLayCCSubType(ScriptPersonality 1,BaseStation 2,Sector 2)", "x", "MACLayCCSubType"},
+      {"SectorID", "4294967296", "", "The value for SectorID should be between 1 and 4294967295"},
+      {"SectorID127_96", "4294967296", "", "The value for SectorID127_96 should be between 0 and 4294967295."},
   };
   store_->let("PRint_BandClass", std::int16_t{9});
   for (const Case& c : cases) {
     const auto values = reader_->values;
     reader_->values[c.key] = c.value;
-    EXPECT_EQ(raised_by_initialize(), c.raised) << c.key;
+    EXPECT_EQ(raised_by_initialize(),
+              (c.invalid.empty() ? test::Raised{1, "SB_GlobalParameters.Initialize", c.text}
+                                 : test::Raised{1, "SB_GlobalParameters.InvalidParameter",
+                                                c.invalid + " script parameter has an invalid value"}));
     EXPECT_EQ(integer("PRint_BandClass"), 9);
     EXPECT_EQ(integer("PRint_PhyLaySubType"), -1);
     reader_->values = values;

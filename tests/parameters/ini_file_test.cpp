@@ -27,29 +27,22 @@ TEST(IniFileText, ValuesAsPeopleWriteThem) {
                      "DRCGating = b\r\n"
                      "[Empty]\n"
                      "Last = \xC3\xA9");
-  struct Case {
-    const char* section;
-    const char* key;
-    const char* value;
-  };
-  constexpr Case kCases[] = {
-      {"Sector 0", "Plain", "1"},
-      {"SECTOR 0", "plain", "1"},
-      {"SECTOR 0", "Blanks", "two words"},
-      {"SECTOR 0", "Commented", "5"},
-      {"SECTOR 0", "Hashed", "6"},
-      {"SECTOR 0", "Nothing", ""},
-      {"SECTOR 0", "Dial", "#777"},
-      {"SECTOR 0", "Joined", "a;b#c"},
-      {"SECTOR 0", "Quoted", " x ; \"y\" "},
-      {"SECTOR 0", "TX Reference Level", "-60"},
-      {"SECTOR 0", "PhyLaySubType(ScriptPersonality 1)", "2"},
-      {"SECTOR 0", "DRCGating ", "a"},
-      {"SECTOR 0", "DRCGating", "b"},
-      {"SECTOR 0", "Plain ", "1"},
-      {"Empty", "Last", "\xC3\xA9"},
-  };
-  for (const Case& c : kCases) EXPECT_EQ(file.at(c.section, c.key).value, c.value) << c.key;
+  constexpr std::pair<const char*, const char*> kValues[] = {{"Plain", "1"},
+                                                             {"plain", "1"},
+                                                             {"Blanks", "two words"},
+                                                             {"Commented", "5"},
+                                                             {"Hashed", "6"},
+                                                             {"Nothing", ""},
+                                                             {"Dial", "#777"},
+                                                             {"Joined", "a;b#c"},
+                                                             {"Quoted", " x ; \"y\" "},
+                                                             {"TX Reference Level", "-60"},
+                                                             {"PhyLaySubType(ScriptPersonality 1)", "2"},
+                                                             {"DRCGating ", "a"},
+                                                             {"DRCGating", "b"},
+                                                             {"Plain ", "1"}};
+  for (const auto& [key, value] : kValues) EXPECT_EQ(file.at("SECTOR 0", key).value, value) << key;
+  EXPECT_EQ(file.at("Sector 0", "Plain").value, "1");
   EXPECT_EQ(file.find("SECTOR 0", "Plai"), nullptr);
   EXPECT_EQ(file.section_strings("empty"), std::vector<std::string>{"Last=\xC3\xA9"});
 }

@@ -14,6 +14,17 @@ TEST(SubtypeCheck, CorrectsAndWarns) {
   const std::string to_phy = "Initialising the value of Physical Layer SubType to 2";
   const std::string to_ftc = "Initialising the value of MAC FTC Layer SubType to 1";
   const std::string to_rtc = "Initialising the value of MAC RTC Layer SubType to 3";
+  // Two blanks in front of every name but the first.
+  const auto invalid = [](int value, const std::string& name, const char* key, int highest) {
+    return "Warning: Invalid value " + std::to_string(value) + " for " + name + "[" + key + "]. The valid range for " +
+           name + " is between [-1," + std::to_string(highest) + "]";
+  };
+  const auto set_to = [](const std::string& name, int value) {
+    return "Initialising the value of " + name + " to " + std::to_string(value);
+  };
+  const std::string phy = "Physical Layer SubType";
+  const std::string ftc = "MAC Layer FTC SubType";
+  const std::string rtc = "MAC Layer RTC SubType";
   struct Case {
     SubtypeSet given;  // physical, RTC, FTC, idle, CC, ACH, application, async, sub-sync
     SubtypeSet corrected;
@@ -23,36 +34,17 @@ TEST(SubtypeCheck, CorrectsAndWarns) {
       {{0, 0, 0, 0, 0, 0, 0, 4, 0}, {0, 0, 0, 0, 0, 0, 0, 4, 0}, {}},
       {{2, 3, 1, 1, 1, 1, 1, 9, 9}, {2, 3, 1, 1, 1, 1, 1, 9, 9}, {}},
       {{-1, -1, -1, -1, -1, -1, -1, -1, -1}, {-1, -1, -1, -1, -1, -1, -1, -1, -1}, {}},
-      {{3, 0, 0, 0, 0, 0, 0, 5, 0},
-       {0, 0, 0, 0, 0, 0, 0, 5, 0},
-       {"Warning: Invalid value 3 for Physical Layer SubType[PhyLaySubType]. The valid range for Physical Layer "
-        "SubType is between [-1,2]",
-        "Initialising the value of Physical Layer SubType to 0"}},
+      {{3, 0, 0, 0, 0, 0, 0, 5, 0}, {0, 0, 0, 0, 0, 0, 0, 5, 0}, {invalid(3, phy, "PhyLaySubType", 2), set_to(phy, 0)}},
       {{2, 4, 2, 0, 0, 0, 0, 4, 0},
        {2, 3, 1, 0, 0, 0, 0, 4, 0},
-       {"Warning: Invalid value 2 for MAC Layer FTC SubType[MACLayFTCSubType]. The valid range for MAC Layer FTC "
-        "SubType is between [-1,1]",
-        "Initialising the value of  MAC Layer FTC SubType to 1",
-        "Warning: Invalid value 4 for MAC Layer RTC SubType[MACLayRTCSubType]. The valid range for MAC Layer RTC "
-        "SubType is between [-1,3]",
-        "Initialising the value of  MAC Layer RTC SubType to 3"}},
+       {invalid(2, ftc, "MACLayFTCSubType", 1), set_to(" " + ftc, 1), invalid(4, rtc, "MACLayRTCSubType", 3),
+        set_to(" " + rtc, 3)}},
       {{1, -2, -2, 2, 2, -2, 0, 4, 0},
        {1, 1, 0, 0, 0, 0, 0, 4, 0},
-       {"Warning: Invalid value -2 for MAC Layer FTC SubType[MACLayFTCSubType]. The valid range for MAC Layer FTC "
-        "SubType is between [-1,1]",
-        "Initialising the value of  MAC Layer FTC SubType to 0",
-        "Warning: Invalid value -2 for MAC Layer RTC SubType[MACLayRTCSubType]. The valid range for MAC Layer RTC "
-        "SubType is between [-1,3]",
-        "Initialising the value of  MAC Layer RTC SubType to 1",
-        "Warning: Invalid value 2 for Idle State SubType[IdleStateSubType]. The valid range for Idle State SubType is "
-        "between [-1,1]",
-        "Initialising the value of  Idle State SubType to 0",
-        "Warning: Invalid value 2 for MAC Layer CC SubType[MACLayCCSubType]. The valid range for MAC Layer CC SubType "
-        "is between [-1,1]",
-        "Initialising the value of  MAC Layer CC SubType to 0",
-        "Warning: Invalid value -2 for MAC Layer ACH SubType[MACLayACHSubType]. The valid range for MAC Layer ACH "
-        "SubType is between [-1,1]",
-        "Initialising the value of  MAC Layer ACH SubType to 0"}},
+       {invalid(-2, ftc, "MACLayFTCSubType", 1), set_to(" " + ftc, 0), invalid(-2, rtc, "MACLayRTCSubType", 3),
+        set_to(" " + rtc, 1), invalid(2, "Idle State SubType", "IdleStateSubType", 1), set_to(" Idle State SubType", 0),
+        invalid(2, "MAC Layer CC SubType", "MACLayCCSubType", 1), set_to(" MAC Layer CC SubType", 0),
+        invalid(-2, "MAC Layer ACH SubType", "MACLayACHSubType", 1), set_to(" MAC Layer ACH SubType", 0)}},
       {{0, 0, 0, 0, 0, 0, 1, 4, 0},
        {2, 3, 1, 0, 0, 0, 1, 4, 0},
        {"Warning: Multi-Flow Packet Application" + needs, to_phy, to_ftc, to_rtc}},

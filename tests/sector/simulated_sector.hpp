@@ -1,35 +1,60 @@
-// A sector of a simulated test set, with the configuration of the examples.
+// A sector of a simulated test set, with the configuration of the examples and a tap on every object in between.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include "examples/session.hpp"
+#include "sector/tap.hpp"
 #include "simulator/script.hpp"
+#include "support/print_value.hpp"
 
 namespace vorlan::test {
 
 struct SimulatedSector : Script {
+  static constexpr const char* kObjects[] = {"PRobj_TestSet",
+                                             "PRobj_TestReport",
+                                             "PRobj_FChCollection",
+                                             "PRobj_AccChCollection",
+                                             "PRobj_EvSignalling",
+                                             "PRobj_SubType1AccChCollection",
+                                             "PRobj_EvProtocolController",
+                                             "PRobj_RevTrafficChannel",
+                                             "PRobj_SubType2AccChCollection",
+                                             "PRobj_RadioChannelEmulator"};
+
   SimulatedSector()
       : simulated(static_cast<simulator::TestSet*>(test_set.get())),
         parameters(examples::load_configuration(fake.platform, VORLAN_EXAMPLES "/sector.ini", "SECTOR 0")),
         sector(examples::connect(fake.platform, simulated, parameters)) {
+    for (const char* property : kObjects) sector->set(property, tapped(sector->get(property).to_object()));
     sector->let("PRstr_SectorName", "SECTOR 0");
+    sector->let("PR_intReferenceVelocity", i16(30));
+    sector->let("PR_intNumPath", i16(2));
+    parameters->let("PRstr_FileName", "");  // what a test sets is not written to the file
+    parameters->let("PRbln_FadingEnabled", true);
+    fake.debug->lines.clear();
+  }
+
+  Ref<Object> tapped(const Ref<Object>& object) { return make<Tap>(wire, object); }
+  /// Personality 1 on channels of this subtype.
+  void test_subtype(int subtype) {
+    parameters->let("PRint_ScriptPersonality", i16(1));
+    sector->let("PRint_CurrentSubType", i16(subtype));
   }
 
   /// A whole session without security.
   void run() {
+    wire.take_calls();
+    const Ref<Object> wired_signalling = tapped(signalling);
     sector->call("ConfigureFwdAndAccChannel", true, i16(0));
     sector->call("StartSessionNegotiationFromAN");
     sector->call("EndSessionNegotiationFromAN", i16(0));
     sector->call("AcquireReverseTrafficChannel");
     const auto reverse = make<SB_PROT_RevTrafficChannel>(fake.platform);
-    reverse->call("Initialize", parameters, signalling, signalling->get("Messages"));
+    reverse->call("Initialize", parameters, wired_signalling, wired_signalling->get("Messages"));
     reverse->call("NegotiateRateParametersAttribute");
     reverse->call("NegotiatePowerParametersAttribute");
 
-    parameters->let("PRbln_FadingEnabled", true);
-    sector->let("PR_intReferenceVelocity", i16(30));
-    sector->let("PR_intNumPath", i16(2));
     sector->call("EnableFading");
     sector->call("SetGainAndDelay", i16(1), -3.0, 0.0);
     sector->call("SetGainAndDelay", i16(2), -6.0, Null{});
@@ -42,30 +67,14 @@ struct SimulatedSector : Script {
     sector->call("DestoyFadingObjects");
     sector->call("CleanUp");
   }
-  Value of_trace(std::string_view what, int index) { return trace->get(what, i16(index)); }
-  [[nodiscard]] int messages() const { return trace->get("Count").to_integer(); }
-  /// Each message as "> label | octets", or "<" where the terminal sent it.
-  std::vector<std::string> rungs() {
-    std::vector<std::string> all;
-    for (int i = 0; i < messages(); ++i) {
-      const bool forward = of_trace("Direction", i).to_text() == "forward";
-      all.push_back((forward ? "> " : "< ") + of_trace("Label", i).to_text() + " | " + of_trace("Octets", i).to_text());
-    }
-    return all;
-  }
+
   std::string report() { return part("TestReport")->get("Text").to_text(); }
   [[nodiscard]] std::string state() const { return terminal->get("State").to_text(); }
-  /// What the session leaves at the test set: as it was, but for the message that is kept.
-  void expect_clean() {
-    EXPECT_EQ(signalling->get("Filters").to_integer(), 0);
-    EXPECT_EQ(signalling->get("Messages").to_object()->get("Keys"), Value(Value::Array{"ConfigurationCompleteMSG"}));
-    for (const char* channels : {"ForwardChannels", "AccessChannels"}) {
-      EXPECT_EQ(part(channels)->get("Count").to_integer(), 0) << channels;
-    }
-    EXPECT_FALSE(part("RadioChannelEmulator")->get("Enabled").to_boolean());
-    EXPECT_FALSE(part("ProtocolController")->get("StartFTAPTestPktTx").to_boolean());
+  Ref<Object> forward_channel(const char* key = "FC_SECTOR 0") {
+    return part("ForwardChannels")->call("Item", key).to_object();
   }
 
+  Wire wire;
   Ref<simulator::TestSet> simulated;
   Ref<Object> parameters;
   Ref<SB_Sector> sector;

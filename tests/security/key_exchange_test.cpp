@@ -1,5 +1,10 @@
-// The four-message exchange of SB_PROT_DHKeyXChange.
+// The four-message exchange of SB_PROT_DHKeyXChange with the simulated test set, which does the real arithmetic.
+#ifdef VORLAN_KEY_EXCHANGE
+
 #include "security/dh_key_exchange.hpp"
+
+#include <regex>
+
 #include "security/security_fixture.hpp"
 
 namespace vorlan::test {
@@ -7,61 +12,53 @@ namespace {
 
 struct ExchangeFixture : SecurityFixture {
   explicit ExchangeFixture(int bits = 768) {
-    key = counted_octets(static_cast<std::size_t>(bits) / 8);
     initialize(bits);
+    object->call("NegotiateSKeyLength");
+    wire.take_calls();
   }
-  void initialize(int bits) {
-    object->call("Initialize", signalling_value(), Ref<Object>(security_object), integer(bits), messages_value());
-  }
+  void initialize(int bits) { object->call("Initialize", wired_signalling, wired_security, i16(bits), wired_messages); }
   bool execute() { return object->call("ExecuteDHKeyXChange").to_boolean(); }
   Raised failure() {
     return raised_by([&] { execute(); });
   }
-
-  std::string key;
-  Ref<SB_PROT_DHKeyXChange> object = make<SB_PROT_DHKeyXChange>(system.platform);
+  Ref<SB_PROT_DHKeyXChange> object = make<SB_PROT_DHKeyXChange>(fake.platform);
 };
 
-std::string send_and_wait(const std::string& label, const std::string& hex, const std::string& answer, int time_out) {
-  const std::string code = answer == "ATKeyComplete" ? "3" : "1";
-  return "Sig.SendAndWait(" + label + "|3|1|[" + hex + "]|5|0|2|40|-1|" + answer + "|" + code + "|" +
-         std::to_string(time_out) + ")";
-}
-
-TEST(DHKeyExchange, RunsTheWholeExchange) {
+TEST(DHKeyExchange, BothSidesHoldTheSameKey) {
+  const std::regex octets("([0-9A-F]{2} ?){20,}");
   for (const int bits : {768, 1024}) {
     ExchangeFixture f(bits);
-    for (const std::string transaction : {"00", "01"}) {
-      f.answer_delay = std::chrono::milliseconds(2900);
+    EXPECT_EQ(f.terminal->get("SessionKeyLength").to_integer(), bits);
+    f.terminal->let("AnswerDelay", 2900);
+    for (const std::string number : {"1", "2"}) {
       EXPECT_TRUE(f.execute());
-      const std::string number = std::to_string(transaction == "01" ? 1 : 0);
-      EXPECT_EQ(f.take_calls(),
-                (Calls{"Security.GetANPublicKey(" + std::to_string(bits) + ")", "Sig.CreateMessageObject()",
-                       send_and_wait("KeyRequestMsg", "00 " + transaction + " 07 " + f.key, "KeyResponseMsg", 250),
-                       "Messages.Item(KeyResponseMsg)", "Messages.Remove(KeyResponseMsg)", "Sig.CreateMessageObject()",
-                       "Security.SetATPublicKey([" + f.key + "])", "Security.Nonce", "Security.TimeStampShort",
-                       "Security.GetKeySignature(" + number + ")", "Sig.CreateMessageObject()",
-                       send_and_wait("ANKeyComplete", "02 " + transaction + " 12 34 56 78 " + counted_octets(20),
-                                     "ATKeyComplete", 500),
-                       "Messages.Item(ATKeyComplete)", "Messages.Remove(ATKeyComplete)"}));
+      EXPECT_TRUE(f.part("Security")->get("KeysAgree").to_boolean());
+      Calls calls = f.wire.take_calls();
+      for (std::string& call : calls) call = std::regex_replace(call, octets, "...");
+      EXPECT_EQ(calls,
+                (Calls{"GetANPublicKey(" + std::to_string(bits) + ")", "CreateMessageObject()",
+                       "SendAndWait(KeyRequestMsg|3|1|[...]|5|0|2|40|-1|KeyResponseMsg|1|250)", "Item(KeyResponseMsg)",
+                       "Remove(KeyResponseMsg)", "CreateMessageObject()", "SetATPublicKey([...])", "Nonce",
+                       "TimeStampShort", "GetKeySignature(" + number + ")", "CreateMessageObject()",
+                       "SendAndWait(ANKeyComplete|3|1|[...]|5|0|2|40|-1|ATKeyComplete|3|500)", "Item(ATKeyComplete)",
+                       "Remove(ATKeyComplete)"}));
       EXPECT_EQ(f.object->get("PRlng_TKEPSigCompAT"), Value(2));
     }
+    EXPECT_EQ(f.complaint(), "");
   }
 }
 
 TEST(DHKeyExchange, WaitsAsLongAsTheTerminalAsks) {
-  for (const auto& [asked, units] : {std::pair{"00", 500}, {"0A", 500}, {"0B", 550}, {"FF", 12750}}) {
-    ExchangeFixture f;
-    f.replies["KeyResponseMsg"] = std::string("01 ## ") + asked + " 02";
-    EXPECT_TRUE(f.execute());
-    EXPECT_NE(f.trace.calls[f.trace.calls.size() - 3].find("|ATKeyComplete|3|" + std::to_string(units) + ")"),
-              std::string::npos)
-        << asked;
+  ExchangeFixture f;
+  for (const auto& [asked, units] : {std::pair{0, "500"}, {10, "500"}, {11, "550"}, {255, "12750"}}) {
+    f.terminal->let("KeyTimeOut", i16(asked));
+    f.execute();
+    const Calls sent = f.wire.take_calls("SendAndWait(ANKeyComplete");
+    EXPECT_TRUE(sent.at(0).ends_with("|ATKeyComplete|3|" + std::string(units) + ")")) << sent[0];
   }
-  ExchangeFixture f;  // by position: what is not there is empty
-  f.replies["KeyResponseMsg"] = "01 ##";
+  f.terminal->call("AnswerLate", 20000, i16(5), i16(3));
   EXPECT_TRUE(f.execute());
-  EXPECT_EQ(f.trace.calls[6], "Security.SetATPublicKey([])");
+  EXPECT_EQ(f.object->get("PRlng_TKEPSigCompAT"), Value(20));
 }
 
 TEST(DHKeyExchange, FailsWithItsOwnTexts) {
@@ -72,71 +69,86 @@ TEST(DHKeyExchange, FailsWithItsOwnTexts) {
       "TransactionID field of ATKeyComplete message is not same as that of ANKeyComplete message.";
   const std::string not_one = "The Result field of ATKeyComplete message is not 1.";
   struct Case {
-    const char* silent_to;
+    int silent;  ///< MessageID that the terminal does not send; none: -1
     const char* label;
-    const char* reply;
+    const char* answer;
     std::string text;
-    const char* last_call;  ///< where it ends; null: at the message that gets no answer
+    const char* last_call;  ///< where it ends
   };
   const Case cases[] = {
-      {"KeyRequestMsg", "", "", "KeyResponse message could not be received.", nullptr},
-      {"", "KeyResponseMsg", "01 FF 04 02", other_response, "Messages.Remove(KeyResponseMsg)"},
-      {"", "KeyResponseMsg", "01", other_response, "Messages.Remove(KeyResponseMsg)"},
-      {"ANKeyComplete", "", "",
-       "ATKeyComplete message could not be received from the AT in response to the ANKeyComplete message.", nullptr},
-      {"", "ATKeyComplete", "03 FF 80", other_complete, "Messages.Item(ATKeyComplete)"},
-      {"", "ATKeyComplete", "", other_complete, "Messages.Item(ATKeyComplete)"},
-      {"", "ATKeyComplete", "03 ## 00", not_one, "Messages.Item(ATKeyComplete)"},
-      {"", "ATKeyComplete", "03 ## 7F", not_one, "Messages.Item(ATKeyComplete)"},
-      {"", "ATKeyComplete", "03 ##", not_one, "Messages.Item(ATKeyComplete)"},
+      {1, "", "", "KeyResponse message could not be received.", "SendAndWait(KeyRequestMsg"},
+      {-1, "KeyResponseMsg", "01 FF 04 02", other_response, "Remove(KeyResponseMsg)"},
+      {-1, "KeyResponseMsg", "01", other_response, "Remove(KeyResponseMsg)"},
+      {3, "", "", "ATKeyComplete message could not be received from the AT in response to the ANKeyComplete message.",
+       "SendAndWait(ANKeyComplete"},
+      {-1, "ATKeyComplete", "03 FF 80", other_complete, "Item(ATKeyComplete)"},
+      {-1, "ATKeyComplete", "", other_complete, "Item(ATKeyComplete)"},
+      {-1, "ATKeyComplete", "03 02 00", not_one, "Item(ATKeyComplete)"},
+      {-1, "ATKeyComplete", "03 02 7F", not_one, "Item(ATKeyComplete)"},
+      {-1, "ATKeyComplete", "03 02", not_one, "Item(ATKeyComplete)"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.text);
     ExchangeFixture f;
-    f.answer_delay = std::chrono::seconds(3);
+    f.terminal->let("AnswerDelay", 3000);
     f.execute();
-    f.silent_to = c.silent_to;
-    f.replies[c.label] = c.reply;
-    f.answer_delay = std::chrono::seconds(9);
+    f.terminal->let("AnswerDelay", 4500);
+    f.answer(c.label, c.answer);
+    if (c.silent >= 0) f.terminal->call("StaySilent", i16(5), i16(c.silent));
     EXPECT_EQ(f.failure(), (Raised{1, "SB_PROT_DHKeyXChange.ExecuteDHKeyXChange", c.text}));
-    const std::string last = f.take_calls().back();
-    const std::string end = c.last_call != nullptr ? c.last_call : "Sig.SendAndWait(" + std::string(c.silent_to);
-    EXPECT_EQ(last.substr(0, end.size()), end);
+    EXPECT_TRUE(f.wire.calls.back().starts_with(c.last_call)) << f.wire.calls.back();
     EXPECT_EQ(f.object->get("PRlng_TKEPSigCompAT"), Value(3)) << "a failed exchange leaves it";
   }
+}
+
+TEST(DHKeyExchange, ATerminalThatCheats) {
+  struct Case {
+    const char* way;
+    bool succeeds;
+    bool agree;
+  };
+  ExchangeFixture f;
+  for (const Case& c : {Case{"WrongKey", false, false}, Case{"FalseSuccess", true, false},
+                        Case{"FalseFailure", false, true}, Case{"None", true, true}}) {
+    f.terminal->call("CheatInKeyExchange", c.way);
+    EXPECT_EQ(f.failure().number, c.succeeds ? 0 : 1) << c.way;
+    EXPECT_EQ(f.part("Security")->get("KeysAgree").to_boolean(), c.agree) << c.way;
+  }
+  f.terminal->call("CheatInKeyExchange", "DegenerateKey");
+  EXPECT_EQ(f.failure().description, "Invalid procedure call or argument: the terminal's public key is degenerate");
 }
 
 TEST(DHKeyExchange, KeyRequestThatCannotBeCreated) {
   const Raised not_created{1, "SB_PROT_DHKeyXChange.ExecuteDHKeyXChange", "KeyRequest message could not be created."};
   for (const int seconds : {256, -2}) {
     ExchangeFixture f;
-    f.object->let("PRint_KeyRequestTimeOut", integer(seconds));
+    f.object->let("PRint_KeyRequestTimeOut", i16(seconds));
     EXPECT_EQ(f.failure(), not_created);
-    EXPECT_FALSE(f.debug_lines().empty()) << "what went wrong in particular";
+    EXPECT_FALSE(f.fake.debug->lines.empty()) << "what went wrong in particular";
   }
   for (const std::size_t octets : {0U, 95U, 128U}) {
     ExchangeFixture f;
-    f.security_object->answer("GetANPublicKey", Ref<Object>(received(counted_octets(octets))));
+    f.wire.answers["GetANPublicKey(768)"] = Ref<Object>(make<simulator::MessageObject>(simulator::Octets(octets, 2)));
     EXPECT_EQ(f.failure(), not_created) << octets;
-    EXPECT_EQ(f.take_calls().size(), 2U) << "nothing is sent";
+    EXPECT_EQ(f.wire.calls.size(), 2U) << "nothing is sent";
   }
 }
 
 TEST(DHKeyExchange, KeepsATimeOutThatWasSetBeforeInitialize) {
   ExchangeFixture f;
-  const auto object = make<SB_PROT_DHKeyXChange>(f.system.platform);
-  EXPECT_EQ(object->get("PRint_KeyRequestTimeOut"), integer(-1));
+  const auto object = make<SB_PROT_DHKeyXChange>(f.fake.platform);
+  EXPECT_EQ(object->get("PRint_KeyRequestTimeOut"), i16(-1));
   EXPECT_EQ(raised_by([&] { object->call("ExecuteDHKeyXChange"); }),
             (Raised{1, "SB_PROT_DHKeyXChange.ExecuteDHKeyXChange",
                     "SB_PROT_DHKeyXChange Object is not initialized. Please call <Initialize> method of this object "
                     "first."}));
-  EXPECT_EQ(f.object->get("PRint_KeyRequestTimeOut"), integer(7));
+  EXPECT_EQ(f.object->get("PRint_KeyRequestTimeOut"), i16(7));
   for (const int seconds : {20, -1}) {
-    f.object->let("PRint_KeyRequestTimeOut", integer(seconds));
+    f.object->let("PRint_KeyRequestTimeOut", i16(seconds));
     f.initialize(768);
-    f.take_calls();
     f.execute();
-    EXPECT_NE(f.trace.calls[2].find(seconds == -1 ? "|[00 00 07 00 01" : "|[00 00 14 00 01"), std::string::npos);
+    const Calls sent = f.wire.take_calls("SendAndWait(KeyRequestMsg");
+    EXPECT_NE(sent.at(0).find(seconds == -1 ? "[00 00 07 " : "[00 00 14 "), std::string::npos) << sent[0];
   }
 }
 
@@ -144,18 +156,18 @@ TEST(DHKeyExchange, KeepsATimeOutThatWasSetBeforeInitialize) {
 TEST(DHKeyExchange, SurvivesEveryFaultOfTheTestSet) {
   ExchangeFixture whole;
   whole.execute();
-  const auto members = whole.trace.members;
   for (const Trouble trouble : {Trouble::Raises, Trouble::LacksMember, Trouble::WrongType, Trouble::ReturnsNothing}) {
-    for (std::size_t call = 0; call < members.size(); ++call) {
-      SCOPED_TRACE(whole.trace.calls[call] + " goes wrong in way " + std::to_string(static_cast<int>(trouble)));
+    for (std::size_t call = 0; call < whole.wire.calls.size(); ++call) {
+      SCOPED_TRACE(whole.wire.calls[call] + " goes wrong in way " + std::to_string(static_cast<int>(trouble)));
       ExchangeFixture f;
-      f.trace.trouble = trouble;
-      f.trace.at_call = call;
+      f.wire.trouble = trouble;
+      f.wire.at_call = call;
       // What a call returns does not matter where nothing is expected of it.
-      const bool fails =
-          members[call]->type != ValueType::Empty || trouble == Trouble::Raises || trouble == Trouble::LacksMember;
+      const bool fails = whole.wire.members[call]->type != ValueType::Empty || trouble == Trouble::Raises ||
+                         trouble == Trouble::LacksMember;
       EXPECT_EQ(f.failure().number != 0, fails);
-      f.trace.trouble = Trouble::None;
+      f.wire.trouble = Trouble::None;
+      f.test_set->call("Sleep", 10.0);
       EXPECT_TRUE(f.execute());
     }
   }
@@ -163,3 +175,5 @@ TEST(DHKeyExchange, SurvivesEveryFaultOfTheTestSet) {
 
 }  // namespace
 }  // namespace vorlan::test
+
+#endif

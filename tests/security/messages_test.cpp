@@ -5,43 +5,6 @@
 namespace vorlan::test {
 namespace {
 
-TEST(KeyExchangeMessages, RaiseTheirTexts) {
-  struct Case {
-    const char* name;
-    const char* member;
-    std::string value;
-    const char* text;
-  };
-  const std::string again = "Please set PRobj_MessageObject property first.";
-  const Case cases[] = {
-      {"KeyRequest", "PRstr_TransactionId", "0", "Length of <TransactionId> field should be 8 bits."},
-      {"KeyRequest", "PRstr_Timeout", "000001111", "Length of <Timeout> field should be 8 bits."},
-      {"KeyRequest", "PRstr_ANPubKey", std::string(760, '1'), "Length of <ANPubKey> field should be 768 or 1024 bits."},
-      {"KeyRequest", "PRstr_ANPubKey", std::string(769, '1'), "Length of <ANPubKey> field should be 768 or 1024 bits."},
-      {"KeyRequest", "CreateMessage", "()",
-       "Class not initialized. Please call <Initialize> of KeyRequest Message first."},
-      {"ANKeyComplete", "PRstr_TransactionId", "", "Length of <TransactionId> field should be 8 bits."},
-      {"ANKeyComplete", "PRstr_Nonce", "1", "Length of <Nonce> field should be 16 bits."},
-      {"ANKeyComplete", "PRstr_TimeStampShort", "1", "Length of <TimeStampShort> field should be 16 bits."},
-      {"ANKeyComplete", "PRstr_KeySignature", "1", "Length of <KeySignature> field should be 160 bits."},
-      {"ANKeyComplete", "CreateMessage", "()",
-       "Class not initialized. Please call <Initialize> of ANKeyComplete Message first."},
-  };
-  for (const Case& c : cases) {
-    const std::string source = "SB_Sec_Msg" + std::string(c.name) + "." + c.member;
-    expect_text(c.name, "SB_Sec_Msg", c.member, c.value.c_str(), {1, source, c.text});
-  }
-  for (const char* member : {"PRstr_MessageID", "PRstr_TransactionId", "PRstr_Timeout", "PRstr_ATPubKey"}) {
-    expect_text(
-        "KeyResponse", "SB_Sec_Msg", member, nullptr,
-        {1, "SB_Sec_MsgKeyResponse." + std::string(member), "KeyResponse message object set to nothing. " + again});
-  }
-  for (const char* member : {"PRstr_MessageID", "PRstr_TransactionId", "PRstr_Result", "PRstr_Reserved"}) {
-    expect_text("ATKeyComplete", "SB_Sec_Msg", member, nullptr,
-                {1, "SB_Sec_MsgATKeyComplete." + std::string(member), "ATKey message Object Set To Nothing." + again});
-  }
-}
-
 TEST(KeyExchangeMessages, AreReadByPosition) {
   const Ref<Object> response = create("SB_Sec_MsgKeyResponse");
   const auto parts = [&](const char* hex) {

@@ -46,19 +46,17 @@ constexpr NegotiationCase kCases[] = {
 
 /// The arguments of a class's Initialize, as they should be.
 std::vector<Value> arguments_of(const SecurityFixture& f, std::string_view name) {
-  std::vector<Value> arguments{f.signalling_value(), f.messages_value()};
-  if (name == "SB_PROT_SHA1Authentication") arguments.insert(arguments.begin() + 1, Value(160));
-  if (name == "SB_PROT_DHKeyXChange") {
-    arguments.insert(arguments.begin() + 1, {Value(Ref<Object>(f.security_object)), integer(768)});
-  }
-  return arguments;
+  if (name == "SB_PROT_SHA1Authentication") return {f.wired_signalling, 160, f.wired_messages};
+  if (name == "SB_PROT_DHKeyXChange") return {f.wired_signalling, f.wired_security, i16(768), f.wired_messages};
+  return {f.wired_signalling, f.wired_messages};
 }
 
 Ref<Object> initialized(SecurityFixture& f, std::string_view name) {
   static const Registry kRegistry(class_tables());
-  const Ref<Object> object = kRegistry.create(name, f.system.platform);
+  const Ref<Object> object = kRegistry.create(name, f.fake.platform);
   std::vector<Value> arguments = arguments_of(f, name);
   EXPECT_TRUE(object->invoke("Initialize", Access::Call, arguments).to_boolean());
+  f.wire.take_calls();
   return object;
 }
 
@@ -75,12 +73,13 @@ TEST(SecurityNegotiation, ProposesOneValue) {
   for_every_negotiation([](SecurityFixture& f, const NegotiationCase& c, const Ref<Object>& object) {
     for (const char* transaction : {"00", "01"}) {
       EXPECT_TRUE(object->call(c.operation).to_boolean());
-      EXPECT_EQ(f.take_calls(),
-                (Calls{"Sig.CreateMessageObject()",
-                       std::string("Sig.SendAndWait(ConfigRequestMessage|3|1|[50 ") + transaction + " " + c.record +
-                           "]|" + c.protocol + "|0|2|40|-1|ConfigResponseMessage|1|250)",
-                       "Messages.Item(ConfigResponseMessage)", "Messages.Remove(ConfigResponseMessage)"}));
+      EXPECT_EQ(f.wire.take_calls(),
+                (Calls{"CreateMessageObject()",
+                       std::string("SendAndWait(ConfigRequestMessage|3|1|[50 ") + transaction + " " + c.record + "]|" +
+                           c.protocol + "|0|2|40|-1|ConfigResponseMessage|1|250)",
+                       "Item(ConfigResponseMessage)", "Remove(ConfigResponseMessage)"}));
     }
+    EXPECT_EQ(f.complaint(), "");
   });
 }
 
@@ -89,10 +88,9 @@ TEST(SecurityNegotiation, FailsWithItsOwnTexts) {
     const std::string source = std::string(c.name).append(".").append(c.operation);
     const bool subtype = c.operation == kSubtype;
     const auto expect = [&](const std::string& front, std::string_view text) {
-      f.take_calls();
       EXPECT_EQ(raised_by([&] { object->call(c.operation); }),
                 (Raised{1, source, std::string(front).append(text).append(c.number)}));
-      return f.take_calls().back();
+      return f.wire.take_calls().back();
     };
     const std::string other_transaction =
         "TransactionID field of ConfigurationResponse message is not same as that of ConfigurationRequest message" +
@@ -100,19 +98,19 @@ TEST(SecurityNegotiation, FailsWithItsOwnTexts) {
     const std::string not_received =
         "ConfigurationResponse not received from the AT for ConfigurationRequest on " +
         std::string(subtype ? "Session configuration Protocol proposing use of " : "Key Exchange Protocol proposing ");
-    std::string& reply = f.replies["ConfigResponseMessage"];
+    const char* const label = "ConfigResponseMessage";
     for (const char* other : {"51 FF", "51", ""}) {
-      reply = other;
-      EXPECT_EQ(expect(other_transaction, c.sent), "Messages.Remove(ConfigResponseMessage)");
+      f.answer(label, other);
+      EXPECT_EQ(expect(other_transaction, c.sent), "Remove(ConfigResponseMessage)");
     }
-    for (const std::string& refusal : {std::string("51 ##"), std::string("51 ## ") + c.refused}) {
-      reply = refusal;
+    for (const std::string& refusal : {std::string("51 03"), std::string("51 04 ") + c.refused}) {
+      f.answer(label, refusal);
       EXPECT_EQ(expect(subtype ? "AT rejected the use of " : "AT rejected ", c.rejected),
-                "Messages.Remove(ConfigResponseMessage)");
+                "Remove(ConfigResponseMessage)");
     }
-    f.silent_to = "ConfigRequestMessage";
-    EXPECT_NE(expect(not_received, c.proposed), "Messages.Remove(ConfigResponseMessage)");
-    EXPECT_TRUE(f.system.settings->values.empty()) << "only what is accepted is remembered";
+    f.terminal->call("StaySilent");
+    EXPECT_TRUE(expect(not_received, c.proposed).starts_with("SendAndWait"));
+    EXPECT_TRUE(f.fake.settings->values.empty()) << "only what is accepted is remembered";
     const std::string owner(c.uninitialized_class.empty() ? c.name : c.uninitialized_class);
     EXPECT_EQ(raised_by([&] { create(c.name)->call(c.operation); }),
               (Raised{1, (subtype ? owner : std::string(c.name)) + "." + std::string(c.operation),
@@ -138,28 +136,27 @@ TEST(SecurityNegotiation, InitializeWantsObjectsAndLengths) {
   }
   SecurityFixture f;
   for (const double bits : {-1.0, 65536.0, 1e12}) {
-    EXPECT_EQ(
-        raised_by([&] {
-          create("SB_PROT_SHA1Authentication")->call("Initialize", f.signalling_value(), bits, f.messages_value());
-        }),
-        (Raised{1, "SB_PROT_SHA1Authentication.Initialize", "Invalid value of Auth Key Length specified."}));
+    EXPECT_EQ(raised_by([&] {
+                create("SB_PROT_SHA1Authentication")->call("Initialize", f.wired_signalling, bits, f.wired_messages);
+              }),
+              (Raised{1, "SB_PROT_SHA1Authentication.Initialize", "Invalid value of Auth Key Length specified."}));
   }
-  EXPECT_EQ(error_number([&] {
-              create("SB_PROT_DHKeyXChange")
-                  ->call("Initialize", f.signalling_value(), Ref<Object>(f.security_object), 512, f.messages_value());
-            }),
-            1);
+  EXPECT_EQ(
+      error_number([&] {
+        create("SB_PROT_DHKeyXChange")->call("Initialize", f.wired_signalling, f.wired_security, 512, f.wired_messages);
+      }),
+      1);
 }
 
 TEST(SecurityNegotiation, TakesAnotherNumberAndRemembersIt) {
   SecurityFixture f;
   const Ref<Object> key_exchange = initialized(f, "SB_PROT_DHKeyXChange");
   EXPECT_TRUE(key_exchange->call("NegotiateSKeyLength", 1024).to_boolean());
-  EXPECT_NE(f.take_calls()[1].find("[50 00 02 00 01]"), std::string::npos);
+  EXPECT_NE(f.wire.take_calls().at(1).find("[50 00 02 00 01]|5|"), std::string::npos);
   EXPECT_EQ(f.setting("KeyExchangeFields", "MRUSKeyLength"), "1024");
-  EXPECT_EQ(error_number([&] { key_exchange->call("NegotiateSKeyLength", 96); }), 5);
+  EXPECT_EQ(error_number([&] { key_exchange->call("NegotiateSKeyLength", 96); }), 1);
   raised_by([&] { key_exchange->call("ExecuteDHKeyXChange"); });
-  EXPECT_EQ(f.take_calls()[0], "Security.GetANPublicKey(1024)");
+  EXPECT_EQ(f.wire.calls.at(0), "GetANPublicKey(1024)");
   key_exchange->call("ClearSessionStateInfo");
   EXPECT_EQ(f.setting("KeyExchangeFields", "MRUSKeyLength"), "0");
 
@@ -168,10 +165,10 @@ TEST(SecurityNegotiation, TakesAnotherNumberAndRemembersIt) {
   EXPECT_EQ(f.setting("AuthenticationFields", "MRUAuthKeyLength"), "65535");
   EXPECT_EQ(f.setting("AuthFields", "MRUAuthKeyLength"), "none") << "the two are kept apart";
   for (const std::int32_t bits : {-1, 65536}) {
-    EXPECT_EQ(error_number([&] { authentication->call("NegotiateAuthKeyLength", bits); }), 5);
+    EXPECT_EQ(error_number([&] { authentication->call("NegotiateAuthKeyLength", bits); }), 1);
     EXPECT_EQ(error_number([&] { authentication->call("NegotiateProtocolSubtype", bits); }), 5);
   }
-  f.replies["ConfigResponseMessage"] = "51 ##";
+  f.terminal->call("Refuse", i16(18));
   EXPECT_EQ(raised_by([&] { authentication->call("NegotiateProtocolSubtype", 7); }).description,
             "AT rejected the use of SHA-1 Authentication Protocol , Subtype 7");
 }

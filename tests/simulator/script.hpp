@@ -13,7 +13,8 @@ namespace vorlan::test {
 inline std::int16_t i16(int value) { return static_cast<std::int16_t>(value); }
 
 struct Script {
-  Script() {
+  explicit Script(std::shared_ptr<Clock> clock = nullptr) {
+    if (clock) fake.platform.clock = std::move(clock);
     simulator::offer_simulated_time(fake.platform);
     test_set = make<simulator::TestSet>(fake.platform);
     signalling = part("Signalling");
