@@ -113,9 +113,12 @@ class Client:
         made.interface = str(made.start(dbus.PROPERTIES_IFACE, "Get", "ss", "Vorlan.Object", "Class").wait())
         return made
 
-    def worker_process(self):
+    def process_of(self, service):
         return int(self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-                             "GetConnectionUnixProcessID", "s", self.worker.service))
+                             "GetConnectionUnixProcessID", "s", service))
+
+    def worker_process(self):
+        return self.process_of(self.worker.service)
 
     def close(self):
         self.bus.close()

@@ -47,11 +47,13 @@ class Probe final : public BoundObject<Probe> {
   }
   [[nodiscard]] std::string octets() const { return "a\xFF"; }
   [[nodiscard]] Date day() const { return {2.5}; }
+  std::int32_t count() { return ++count_; }
 
  private:
   std::shared_ptr<Clock> clock_;
   Value held_;
   std::string text_;
+  std::int32_t count_ = 0;
 };
 
 std::span<const BoundMember> Probe::members() {
@@ -67,6 +69,7 @@ std::span<const BoundMember> Probe::members() {
       property<&Probe::element, &Probe::set_element>("Element", "An indexed text", "index, suffix"),
       property<&Probe::octets>("Octets", "A text that is not UTF-8"),
       property<&Probe::day>("Day", "A date"),
+      property<&Probe::count>("Count", "How often it has been read"),
   };
   return kMembers;
 }

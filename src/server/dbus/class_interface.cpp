@@ -9,6 +9,8 @@ namespace vorlan::dbus {
 namespace {
 
 constexpr const char* kSetter = "Set_";
+/// The mark by which systemd's tools know a property that GetAll leaves out.
+constexpr const char* kExplicit = "   <annotation name=\"org.freedesktop.systemd1.Explicit\" value=\"true\"/>\n";
 
 std::string documentation(std::string_view summary) {
   if (summary.empty()) return {};
@@ -34,7 +36,7 @@ std::string property_xml(const MemberInfo& member) {
   return std::string("  <property name=\"") + std::string(member.name) + "\" type=\"" + signature_of(member.type) +
          "\" access=\"" + access + "\">\n" +
          "   <annotation name=\"org.freedesktop.DBus.Property.EmitsChangedSignal\" value=\"false\"/>\n" +
-         documentation(member.summary) + "  </property>\n";
+         (member.get_changes ? kExplicit : "") + documentation(member.summary) + "  </property>\n";
 }
 
 }  // namespace

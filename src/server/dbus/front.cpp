@@ -1,7 +1,6 @@
 #include "server/dbus/front.hpp"
 
 #include <sys/epoll.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -20,12 +19,12 @@ struct Front::Session {
   Front& front;
   std::string client;  ///< unique bus name; or the bus name of an open session
   WorkerProcess process;
-  std::string worker;            ///< its unique bus name; empty until it can be called
-  std::vector<Message> waiting;  ///< calls that came before that
-  Source ready;
-  Source worker_end;
-  Descriptor holder;  ///< of an open session: the process that it lasts as long as
-  Source holder_end;
+  std::string worker = {};            ///< its unique bus name; empty until it can be called
+  std::vector<Message> waiting = {};  ///< calls that came before that
+  Source ready = {};
+  Source worker_end = {};
+  Descriptor holder{};  ///< of an open session: the process that it lasts as long as
+  Source holder_end = {};
   bool lost = false;  ///< the worker has left the bus, and its end is about to be noticed
 };
 
@@ -59,7 +58,7 @@ Front::Front(const Registry& registry, std::string program)
       owner_(bus_owner(bus_.get())) {
   sigset_t signals;
   sigemptyset(&signals);
-  for (const int signal : {SIGTERM, SIGINT, SIGCHLD}) sigaddset(&signals, signal);
+  for (const int signal : {SIGTERM, SIGINT}) sigaddset(&signals, signal);
   sigprocmask(SIG_BLOCK, &signals, nullptr);
   for (const int signal : {SIGTERM, SIGINT}) {
     check(sd_event_add_signal(loop_.get(), nullptr, signal, nullptr, nullptr), "signals");
@@ -90,12 +89,7 @@ Front::Front(const Registry& registry, std::string program)
   check(named, kServerName);
 }
 
-Front::~Front() {
-  for (const auto& [client, session] : sessions_) {
-    kill(session->process.process, SIGKILL);
-    waitpid(session->process.process, nullptr, 0);
-  }
-}
+Front::~Front() = default;
 
 void Front::run() { check(sd_event_loop(loop_.get()), "event loop"); }
 
@@ -122,7 +116,7 @@ void Front::create(sd_bus_message* call) {
   require_signature(call, "s");
   const std::string client = sd_bus_message_get_sender(call);
   const auto known = sessions_.find(client);
-  Session& session = known != sessions_.end() ? *known->second : start(client);
+  Session& session = known != sessions_.end() ? *known->second : add(start(client));
   if (session.lost) return session.waiting.push_back(hold(call));
   pass_on(session, hold(call));
 }
@@ -140,55 +134,44 @@ void Front::open_session(sd_bus_message* call) {
     throw Refusal{SD_BUS_ERROR_INVALID_ARGS, "No process " + std::to_string(process) + " of the bus's owner."};
   }
   Descriptor watched = watch_process(holder);
-  Session& session = start(name);
-  session.holder = std::move(watched);
+  auto session = start(name);
+  session->holder = std::move(watched);
+  session->holder_end = watch<&Front::on_holder_end>(session->holder, *session);
+  pass_on(add(std::move(session)), hold(call));
+}
+
+std::unique_ptr<Front::Session> Front::start(const std::string& client) {
+  auto session = std::unique_ptr<Session>(new Session{*this, client, WorkerProcess(program_, client, name_)});
+  session->ready = watch<&Front::on_ready>(session->process.ready(), *session);
+  session->worker_end = watch<&Front::on_worker_end>(session->process.end(), *session);
+  return session;
+}
+
+Front::Session& Front::add(std::unique_ptr<Session> session) {
+  const std::string& client = session->client;
+  return *sessions_.emplace(client, std::move(session)).first->second;
+}
+
+template <void (Front::*Then)(Front::Session&)>
+Source Front::watch(const Descriptor& descriptor, Session& session) {
   sd_event_source* source = nullptr;
   check(sd_event_add_io(
-            loop_.get(), &source, session.holder.get(), EPOLLIN,
-            [](sd_event_source*, int, std::uint32_t, void* ended) {
-              const auto* held = static_cast<Session*>(ended);
-              held->front.on_client_left(held->client.c_str());
+            loop_.get(), &source, descriptor.get(), EPOLLIN,
+            [](sd_event_source*, int, std::uint32_t, void* watched) {
+              auto* of = static_cast<Session*>(watched);
+              (of->front.*Then)(*of);
               return 0;
             },
             &session),
         "process");
-  session.holder_end.reset(source);
-  pass_on(session, hold(call));
-}
-
-Front::Session& Front::start(const std::string& client) {
-  auto made = std::unique_ptr<Session>(
-      new Session{*this, client, start_worker(program_, client, name_), {}, {}, {}, {}, Descriptor(), {}});
-  Session& session = *sessions_.emplace(client, std::move(made)).first->second;
-  sd_event_source* source = nullptr;
-  check(sd_event_add_child(
-            loop_.get(), &source, session.process.process, WEXITED,
-            [](sd_event_source*, const siginfo_t*, void* ended) {
-              auto* held = static_cast<Session*>(ended);
-              held->front.on_worker_end(*held);
-              return 0;
-            },
-            &session),
-        "worker");
-  session.worker_end.reset(source);
-  check(sd_event_add_io(
-            loop_.get(), &source, session.process.ready.get(), EPOLLIN,
-            [](sd_event_source*, int, std::uint32_t, void* started) {
-              auto* held = static_cast<Session*>(started);
-              held->front.on_ready(*held);
-              return 0;
-            },
-            &session),
-        "worker");
-  session.ready.reset(source);
-  return session;
+  return Source(source);
 }
 
 void Front::on_ready(Session& session) {
   std::array<char, 256> name{};
-  const ssize_t size = read(session.process.ready.get(), name.data(), name.size());
+  const ssize_t size = read(session.process.ready().get(), name.data(), name.size());
   session.ready.reset();
-  session.process.ready = Descriptor();
+  session.process.close_ready();
   // A worker that says nothing is about to end.
   if (size <= 0) return;
   session.worker.assign(name.data(), static_cast<std::size_t>(size));
@@ -260,12 +243,15 @@ void Front::on_worker_end(Session& session) {
   }
 }
 
-void Front::on_client_left(const char* client) noexcept {
-  const auto left = sessions_.find(std::string_view(client));
-  if (left == sessions_.end()) return;
-  left->second->holder_end.reset();
-  // Its end is noticed like any other's.
-  kill(left->second->process.process, SIGKILL);
+void Front::on_holder_end(Session& session) {
+  session.holder_end.reset();
+  session.process.kill();
+}
+
+void Front::on_client_left(std::string_view client) noexcept {
+  const auto left = sessions_.find(client);
+  // The worker's end is noticed like any other's.
+  if (left != sessions_.end()) left->second->process.kill();
 }
 
 }  // namespace vorlan::dbus

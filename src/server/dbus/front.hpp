@@ -6,11 +6,13 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "automation/registry.hpp"
 #include "server/dbus/bus.hpp"
 #include "server/dbus/class_interface.hpp"
+#include "server/dbus/worker_process.hpp"
 
 namespace vorlan::dbus {
 
@@ -42,13 +44,18 @@ class Front {
   void open_session(sd_bus_message* call);
   void require_owner(sd_bus_message* call) const;
 
-  Session& start(const std::string& client);
+  /// A session whose worker is about to be ready. It is nobody's until it is added: whatever fails before ends it.
+  std::unique_ptr<Session> start(const std::string& client);
+  Session& add(std::unique_ptr<Session> session);
+  template <void (Front::*Then)(Session&)>
+  Source watch(const Descriptor& descriptor, Session& session);
   void pass_on(Session& session, Message call);
   /// A worker's answer to the call that was passed on to it goes back to the client as it is.
   void return_answer(sd_bus_message* answer, Message call) noexcept;
   void on_ready(Session& session);
   void on_worker_end(Session& session);
-  void on_client_left(const char* client) noexcept;
+  void on_holder_end(Session& session);
+  void on_client_left(std::string_view client) noexcept;
 
   const Registry& registry_;
   std::string program_;

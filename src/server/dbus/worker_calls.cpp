@@ -175,7 +175,7 @@ void Worker::get_all(const Target& target, Object& object) {
 }
 
 void Worker::append_readable(sd_bus_message* reply, const MemberInfo& member, Object& object) {
-  if (!member.gets) return;
+  if (!member.gets || member.get_changes) return;
   Value value;
   try {
     value = object.invoke(member.name, Access::Get, {});

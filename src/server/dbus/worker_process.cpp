@@ -4,6 +4,7 @@
 #include <spawn.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -15,16 +16,10 @@
 
 namespace vorlan::dbus {
 
-Descriptor::~Descriptor() {
-  if (number_ >= 0) close(number_);
-}
+namespace {
 
-WorkerProcess start_worker(const std::string& program, const std::string& client, const std::string& front) {
-  std::array<int, 2> ends{};
-  if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) check(-errno, "pipe to a worker");
-  WorkerProcess worker{-1, Descriptor(ends[0])};
-  const Descriptor write_end(ends[1]);
-
+pid_t start_worker(const std::string& program, const std::string& client, const std::string& front,
+                   const Descriptor& write_end) {
   std::vector<std::string> words{program,   "serve", "--worker",        client,
                                  "--front", front,   "--front-process", std::to_string(getpid())};
   std::vector<char*> arguments;
@@ -41,12 +36,35 @@ WorkerProcess start_worker(const std::string& program, const std::string& client
   sigemptyset(&none);
   posix_spawnattr_setsigmask(&attributes, &none);
   posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
-  const int failed = posix_spawn(&worker.process, program.c_str(), &files, &attributes, arguments.data(), environ);
+  pid_t process = -1;
+  const int failed = posix_spawn(&process, program.c_str(), &files, &attributes, arguments.data(), environ);
   posix_spawnattr_destroy(&attributes);
   posix_spawn_file_actions_destroy(&files);
   check(-failed, "start of a worker");
-  return worker;
+  return process;
 }
+
+}  // namespace
+
+Descriptor::~Descriptor() {
+  if (number_ >= 0) close(number_);
+}
+
+WorkerProcess::WorkerProcess(const std::string& program, const std::string& client, const std::string& front) {
+  std::array<int, 2> ends{};
+  if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) check(-errno, "pipe to a worker");
+  ready_ = Descriptor(ends[0]);
+  child_.process = start_worker(program, client, front, Descriptor(ends[1]));
+  end_ = watch_process(child_.process);
+}
+
+WorkerProcess::Child::~Child() {
+  if (process < 0) return;
+  ::kill(process, SIGKILL);
+  waitpid(process, nullptr, 0);
+}
+
+void WorkerProcess::kill() noexcept { ::kill(child_.process, SIGKILL); }
 
 Descriptor watch_process(pid_t process) {
   // By its number: the C library's own function lacks C linkage in glibc 2.36.

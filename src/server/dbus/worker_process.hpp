@@ -27,13 +27,32 @@ class Descriptor {
 /// In a worker, the descriptor to which it writes its name on the bus once it can be called.
 inline constexpr int kReadyDescriptor = 3;
 
-struct WorkerProcess {
-  pid_t process = -1;
-  Descriptor ready;  ///< what the worker writes to kReadyDescriptor
-};
+/// A child that runs "<program> serve --worker <client> --front <front> --front-process <this process>". It is killed,
+/// and nothing of it remains, when its owner lets go of it.
+class WorkerProcess {
+ public:
+  WorkerProcess(const std::string& program, const std::string& client, const std::string& front);
 
-/// Runs "<program> serve --worker <client> --front <front> --front-process <this process>".
-WorkerProcess start_worker(const std::string& program, const std::string& client, const std::string& front);
+  /// What the worker writes to kReadyDescriptor.
+  [[nodiscard]] const Descriptor& ready() const noexcept { return ready_; }
+  void close_ready() noexcept { ready_ = Descriptor(); }
+  /// Becomes readable when the worker has ended.
+  [[nodiscard]] const Descriptor& end() const noexcept { return end_; }
+  void kill() noexcept;
+
+ private:
+  struct Child {
+    pid_t process = -1;
+    Child() = default;
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+    ~Child();
+  };
+
+  Child child_;
+  Descriptor ready_;
+  Descriptor end_;
+};
 
 /// Becomes readable when the process has ended.
 Descriptor watch_process(pid_t process);
