@@ -95,7 +95,7 @@ int run(const std::vector<std::string>& words) {
   if ((enters || is(0, "UnregServer")) && (words.size() == 1 || (words.size() == 2 && is(1, "user")))) {
     const com::Apartment apartment;
     const com::Registration registration{words.size() == 2 ? com::Scope::User : com::Scope::Machine, own_path()};
-    enters ? com::enter(registry, registration) : com::take_out(registry, registration);
+    enters ? com::register_server(registry, registration) : com::unregister_server(registry, registration);
     return kDone;
   }
   const bool asked = words.size() == 1 && (is(0, "help") || is(0, "?"));

@@ -1,11 +1,13 @@
 """Windows without Windows: Wine with a fresh prefix, and what the tests do in it.
 
-The environment says what to test: VORLAN_WINDOWS_BUILD is the build folder with bin/Vorlan.exe.
+The environment says what to test and where: VORLAN_WINDOWS_BUILD is the build folder with bin/Vorlan.exe, WINEPREFIX a
+folder that is made anew.
 """
 
 import os
 import shutil
 import subprocess
+import tempfile
 import time
 from pathlib import Path
 
@@ -13,7 +15,8 @@ import pytest
 
 HERE = Path(__file__).resolve().parent
 BUILD = Path(os.environ["VORLAN_WINDOWS_BUILD"]).resolve()
-LIMIT = 40  # seconds for one program: far more than any takes, so that a fault ends the tests all the same
+LIMIT = 120  # seconds for one program: far more than any takes, so that a fault ends the tests all the same
+ATTEMPTS = 3  # to have a screen and a system; what runs there has one
 
 
 class Machine:
@@ -22,33 +25,53 @@ class Machine:
     def __init__(self, folder):
         self.folder = folder
         self.server = BUILD / "bin" / "Vorlan.exe"
-        self.environment = {**os.environ, "WINEPREFIX": str(folder), "WINEDEBUG": "-all", "TZ": "UTC",
-                            "WINEDLLOVERRIDES": "mscoree,mshtml="}
+        self.environment = {name: value for name, value in os.environ.items() if not name.startswith(("WINE", "XDG_"))}
+        self.environment |= {"WINEPREFIX": str(folder), "WINEDEBUG": "-all", "HOME": str(folder), "LC_ALL": "C.UTF-8",
+                             "TZ": "UTC", "WINEDLLOVERRIDES": "mscoree,mshtml,winemenubuilder.exe="}
+        self.keeper = None
+
+    def boot(self):
+        """Something that runs all the time keeps the system from going down and coming up again."""
+        shutil.rmtree(self.folder, ignore_errors=True)
+        self.folder.mkdir(parents=True)
+        self.succeed("wineboot", "--init")
+        self.shut_down()  # What it leaves running gets into the way of what runs next.
+        self.keep_up()
+
+    def keep_up(self):
+        self.keeper = self.start("cmd", "/c", "pause", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def start(self, *words, **options):
-        return subprocess.Popen(["wine", *map(str, words)], env=self.environment, cwd=self.folder, text=True,
-                                stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, **options)
+        streams = {"stdin": subprocess.PIPE, "stdout": subprocess.PIPE, "stderr": subprocess.DEVNULL, **options}
+        return subprocess.Popen(["wine", *map(str, words)], env=self.environment, cwd=self.folder, text=True, **streams)
 
-    def run(self, *words):
-        return subprocess.run(["wine", *map(str, words)], env=self.environment, cwd=self.folder, text=True,
-                              stdin=subprocess.DEVNULL, capture_output=True, timeout=LIMIT)
+    def run(self, *words, **variables):
+        """Output goes to files: the end of a pipe would have to be waited for until the last process has let go of it."""
+        with tempfile.TemporaryFile("w+") as out, tempfile.TemporaryFile("w+", errors="replace") as errors:
+            done = subprocess.run(["wine", *map(str, words)], env={**self.environment, **variables}, cwd=self.folder,
+                                  stdin=subprocess.DEVNULL, stdout=out, stderr=errors, timeout=LIMIT)
+            for file in (out, errors):
+                file.seek(0)
+            done.stdout, done.stderr = out.read(), errors.read()
+            return done
 
     def succeed(self, *words):
         done = self.run(*words)
         assert done.returncode == 0, f"{words}: {done.returncode}\n{done.stdout}\n{done.stderr}"
         return done.stdout
 
-    def script(self, name):
+    def script(self, name, text=None):
         """The script as it runs: what the VBScript tests share stands in front of it."""
         if not name.endswith(".vbs"):
             return windows_path(HERE / name)
         whole = self.folder / name
-        whole.write_text("\n".join([(HERE / "check.vbs").read_text(), (HERE / name).read_text(), "Finish\n"]))
+        text = (HERE / name).read_text() if text is None else text
+        whole.write_text("\n".join([(HERE / "check.vbs").read_text(), text, "Finish\n"]))
         return windows_path(whole)
 
-    def cscript(self, name, *words):
+    def cscript(self, name, *words, text=None):
         """A script that an error ends has no last line; the host may call that a success."""
-        said = self.succeed("cscript", "//nologo", self.script(name), *words)
+        said = self.succeed("cscript", "//nologo", self.script(name, text), *words)
         assert said.rstrip().endswith("checks, 0 failed"), said
         return said
 
@@ -84,11 +107,16 @@ class Machine:
                     key = file + line[:line.rindex("]") + 1]
                 if key.startswith(file + r"[Software\\Classes") and not line.startswith("#time"):
                     lines.add(f"{key} {'' if line.startswith('[') else line}")
+        self.keep_up()
         return lines
 
     def shut_down(self):
         for switch in ("-k", "-w"):
             subprocess.run(["wineserver", switch], env=self.environment, timeout=LIMIT)
+        if self.keeper:
+            self.keeper.kill()
+            self.keeper.communicate()
+            self.keeper = None
 
 
 def windows_path(path):
@@ -97,16 +125,20 @@ def windows_path(path):
 
 @pytest.fixture(scope="session")
 def display():
-    """A screen that nobody sees, for a system that expects one."""
-    if "DISPLAY" in os.environ or not shutil.which("Xvfb"):
-        yield
-        return
-    reading, writing = os.pipe()
-    screen = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-nolisten", "tcp"], pass_fds=[writing],
-                              stderr=subprocess.DEVNULL)
-    os.close(writing)
-    with os.fdopen(reading) as chosen:
-        os.environ["DISPLAY"] = ":" + chosen.readline().strip()
+    """A screen that nobody sees, for a system that expects one. Its number is whichever is free."""
+    for _ in range(ATTEMPTS):
+        reading, writing = os.pipe()
+        screen = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-nolisten", "tcp"], pass_fds=[writing],
+                                  stderr=subprocess.DEVNULL)
+        os.close(writing)
+        with os.fdopen(reading) as chosen:
+            number = chosen.readline().strip()
+        if number:
+            break
+        screen.wait()
+    else:
+        pytest.exit("Xvfb does not start", returncode=1)
+    os.environ["DISPLAY"] = ":" + number
     yield
     screen.terminate()
     screen.wait()
@@ -114,11 +146,15 @@ def display():
 
 @pytest.fixture(scope="session")
 def fresh_machine(display):
-    folder = BUILD / "wine"
-    shutil.rmtree(folder, ignore_errors=True)
-    folder.mkdir(parents=True)
-    machine = Machine(folder)
-    machine.succeed("wineboot", "--init")
+    machine = Machine(Path(os.environ["WINEPREFIX"]))
+    for attempt in range(1, ATTEMPTS + 1):
+        try:
+            machine.boot()
+            break
+        except (AssertionError, subprocess.TimeoutExpired) as fault:
+            machine.shut_down()
+            if attempt == ATTEMPTS:
+                pytest.exit(f"Wine does not start: {fault}", returncode=1)
     yield machine
     machine.shut_down()
 

@@ -29,8 +29,9 @@ struct LateBound {
                           static_cast<UINT>(names.size())};
     information = {};
     VariantClear(result.get());
+    constexpr WORD kAssigns = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
     return object->Invoke(id(name), IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters,
-                          (kind & DISPATCH_PROPERTYPUT) != 0 ? nullptr : result.get(), &information, nullptr);
+                          (kind & kAssigns) != 0 ? nullptr : result.get(), &information, nullptr);
   }
 
   ComPointer<IDispatch> object;
@@ -42,6 +43,18 @@ inline VARIANT long_value(LONG value) {
   VARIANT made;
   made.vt = VT_I4;
   made.lVal = value;
+  return made;
+}
+inline VARIANT object_value(IDispatch* object) {
+  VARIANT made;
+  made.vt = VT_DISPATCH;
+  made.pdispVal = object;
+  return made;
+}
+inline VARIANT left_out() {
+  VARIANT made;
+  made.vt = VT_ERROR;
+  made.scode = DISP_E_PARAMNOTFOUND;
   return made;
 }
 inline VARIANT reference(VARTYPE type, void* place) {

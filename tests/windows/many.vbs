@@ -1,11 +1,11 @@
-' A thousand objects used and released, four times; one more keeps the server while its memory is looked at, which the
-' files seen1 to seen4 tell of.
+' Five hundred objects used and released, then a thousand; one more keeps the server while its memory is looked at, which
+' the files seen500 and seen1000 tell of.
 Dim kept, files, batch, i, made
 Set files = CreateObject("Scripting.FileSystemObject")
 Set kept = CreateObject("Vorlan.SB_GeneralFunctions")
 kept.LongToBin 1, 8
-For batch = 1 To 4
-  For i = 1 To 1000
+For Each batch In Array(500, 1000)
+  For i = 1 To batch
     Set made = CreateObject("Vorlan.SB_Ses_MsgSessionClose")
     made.Initialize Nothing
     If made.PRstr_MessageID <> "00000001" Then WScript.Quit 1

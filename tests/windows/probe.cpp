@@ -1,7 +1,10 @@
 // A client in C++ does what no scripting host does: typed references, named arguments, a look at the error's parts and
-// at the type library. Prints what fails, and how many.
+// at the type library, calls from two threads. Prints what fails, and how many.
+#include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstdio>
+#include <thread>
 
 #include "late_bound.hpp"
 #include "server/com/apartment.hpp"
@@ -57,6 +60,55 @@ void arguments_by_reference(LateBound& functions) {
   SysFreeString(bits);
 }
 
+/// What the callee leaves alone stays as it is, of whatever type.
+void arguments_left_alone(LateBound& functions) {
+  for (const VARTYPE type : {VT_UI1, VT_CY, VT_I8}) {
+    Variant width;
+    VariantChangeType(width.get(), std::array{long_value(8)}.data(), 0, type);
+    holds("positive number", functions.invoke(L"LongToBin", DISPATCH_METHOD,
+                                              {long_value(5), reference(VT_VARIANT, width.get())}) == S_OK &&
+                                 is_text(*functions.result, L"00000101") && width->vt == type);
+  }
+  LateBound parameters(L"Vorlan.SB_GlobalParameters");
+  const auto initialise = [&](VARIANT array) {
+    return parameters.invoke(L"InitialiseArrayForPersonalityCount", DISPATCH_METHOD, {array, long_value(0)}) == S_OK;
+  };
+  struct Row {
+    const char* what;
+    LONG first;
+    std::vector<SHORT> before;
+    std::vector<SHORT> after;
+  };
+  for (const Row& row : {Row{"array that grows", 0, {}, {-1}}, Row{"array that grows from 1", 1, {}, {-1}},
+                         Row{"array that is left alone", 1, {7, 8}, {7, 8}}}) {
+    SAFEARRAYBOUND bound{static_cast<ULONG>(row.before.size()), row.first};
+    SAFEARRAY* array = row.first == 0 ? nullptr : SafeArrayCreate(VT_I2, 1, &bound);
+    if (array != nullptr) std::copy(row.before.begin(), row.before.end(), static_cast<SHORT*>(array->pvData));
+    holds(row.what, initialise(reference(VT_ARRAY | VT_I2, &array)) && array != nullptr &&
+                        array->rgsabound[0].lLbound == row.first && array->rgsabound[0].cElements == row.after.size() &&
+                        std::equal(row.after.begin(), row.after.end(), static_cast<SHORT*>(array->pvData)));
+    SafeArrayDestroy(array);
+  }
+  std::array<SAFEARRAYBOUND, 2> bounds{SAFEARRAYBOUND{2, 1}, SAFEARRAYBOUND{3, 1}};
+  Variant matrix;
+  matrix->parray = SafeArrayCreate(VT_VARIANT, 2, bounds.data());
+  matrix->vt = VT_ARRAY | VT_VARIANT;
+  holds("array of two dimensions",
+        initialise(reference(VT_VARIANT, matrix.get())) && SafeArrayGetDim(matrix->parray) == 2);
+}
+
+void arguments_left_out(LateBound& functions) {
+  const auto refused = [&](const char* what, LateBound& object, HRESULT result) {
+    holds(what, result == DISP_E_EXCEPTION && object.information.scode == scode_of(450));
+  };
+  refused("left out in front", functions, functions.invoke(L"LongToBin", DISPATCH_METHOD, {left_out(), long_value(8)}));
+  refused("a gap between names", functions, functions.invoke(L"LongToBin", DISPATCH_METHOD, {long_value(8)}, {1}));
+  refused("more names than arguments", functions, functions.invoke(L"LongToBin", DISPATCH_METHOD, {}, {0}));
+  LateBound sector(L"Vorlan.SB_Sector");
+  refused("nothing to assign", sector,
+          sector.invoke(L"PRstr_SectorName", DISPATCH_PROPERTYPUT, {left_out()}, {DISPID_PROPERTYPUT}));
+}
+
 void names(LateBound& functions) {
   std::array<wchar_t*, 2> asked{const_cast<wchar_t*>(L"CALCULATECENTREFREQUENCY"),
                                 const_cast<wchar_t*>(L"channelnumber")};
@@ -101,9 +153,7 @@ void arrays(LateBound& functions) {
     SafeArrayPutElement(names, &i, name);
     SysFreeString(name);
   }
-  VARIANT to;
-  to.vt = VT_DISPATCH;
-  to.pdispVal = report.object.get();
+  const VARIANT to = object_value(report.object.get());
   const VARIANT array = reference(VT_ARRAY | VT_BSTR, &names);
   holds("array of texts",
         functions.invoke(L"LogScriptSpecificParameters", DISPATCH_METHOD, {to, array, array}) == S_OK);
@@ -117,6 +167,10 @@ void type_library(LateBound& functions) {
   holds("two entries for a class",
         library && library->GetTypeInfoCount() > 550 && library->GetTypeInfoCount() % 2 == 0);
   ComPointer<ITypeInfo> info;
+  // What was compiled with the type library asks for its interface.
+  const auto compiled = functions.object.as<IDispatch>(guid_of(members_uuid("Vorlan.SB_GeneralFunctions")));
+  UINT infos = 0;
+  holds("by its number", compiled && compiled->GetTypeInfoCount(&infos) == S_OK && infos == 1);
   holds("of an object", functions.object->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.out()) == S_OK);
   if (!info) return;
   BSTR name = nullptr;
@@ -139,16 +193,109 @@ void type_library(LateBound& functions) {
   holds("the class", library->GetTypeInfoOfGuid(guid_of(class_uuid("Vorlan.SB_Sector")), created.out()) == S_OK);
 }
 
+/// A call that lasts stops no other thread of the client.
+void two_threads() {
+  std::atomic<bool> over = false;
+  LateBound test_set(L"VorlanSim.TestSet");
+  VARIANT yes;
+  yes.vt = VT_BOOL;
+  yes.boolVal = VARIANT_TRUE;
+  holds("real time", test_set.invoke(L"RealTime", DISPATCH_PROPERTYPUT, {yes}, {DISPID_PROPERTYPUT}) == S_OK);
+  std::thread sleeper([&] {
+    const Apartment apartment;
+    holds("sleep", test_set.invoke(L"Sleep", DISPATCH_METHOD, {long_value(3)}) == S_OK);
+    over = true;
+  });
+  LateBound message(L"Vorlan.SB_Ses_MsgSessionClose");
+  bool right = true;
+  int reads = 0;
+  for (; !over; ++reads) {
+    right = right && message.invoke(L"PRstr_MessageID", DISPATCH_PROPERTYGET, {}) == S_OK &&
+            is_text(*message.result, L"00000001");
+  }
+  sleeper.join();
+  holds("reads beside a call that sleeps", right && reads > 10);
+}
+
+/// Has no members. Whatever it is asked, it asks the server something itself, as a wrapper of an object there would.
+class Wrapper final : public IDispatch {
+ public:
+  Wrapper(LateBound& inner, int& answered) : inner_(inner), answered_(answered) {}
+  virtual ~Wrapper() = default;
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) noexcept override {
+    ask();
+    const bool known = IsEqualGUID(iid, IID_IUnknown) != 0 || IsEqualGUID(iid, IID_IDispatch) != 0;
+    *out = known ? this : nullptr;
+    if (known) AddRef();
+    return known ? S_OK : E_NOINTERFACE;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() noexcept override {
+    const ULONG left = --references_;
+    if (left == 0) ask();
+    if (left == 0) delete this;
+    return left;
+  }
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) noexcept override { return ask(); }
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return ask(); }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) noexcept override {
+    ask();
+    return DISP_E_UNKNOWNNAME;
+  }
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
+                                   UINT*) noexcept override {
+    ask();
+    return DISP_E_MEMBERNOTFOUND;
+  }
+
+ private:
+  HRESULT ask() noexcept {
+    if (inner_.invoke(L"LongToBin", DISPATCH_METHOD, {long_value(5), long_value(8)}) == S_OK) ++answered_;
+    return E_NOTIMPL;
+  }
+
+  LateBound& inner_;
+  int& answered_;
+  std::atomic<ULONG> references_{1};
+};
+
+/// The server waits for nobody with the client's turn in its hands.
+void calls_back(LateBound& functions) {
+  LateBound inner(L"Vorlan.SB_GeneralFunctions");
+  LateBound sector(L"Vorlan.SB_Sector");
+  int answered = 0;
+  ComPointer<IDispatch> wrapper(new Wrapper(inner, answered));
+  const VARIANT given = object_value(wrapper.get());
+  Variant text;
+  text->bstrVal = SysAllocString(L"text");
+  text->vt = VT_BSTR;
+  holds("a wrapper without the member",
+        functions.invoke(L"LogInformation", DISPATCH_METHOD, {given, *text}) == DISP_E_EXCEPTION &&
+            functions.information.scode == scode_of(438));
+  holds("it asked", answered > 2);
+  const auto keep = [&](VARIANT object) {
+    return sector.invoke(L"PRobj_TestReport", DISPATCH_PROPERTYPUTREF, {object}, {DISPID_PROPERTYPUT}) == S_OK;
+  };
+  holds("kept", keep(given));
+  wrapper = {};
+  const int before = answered;
+  holds("let go of", keep(object_value(nullptr)) && answered > before);
+}
+
 }  // namespace
 
 int main() try {
   const Apartment apartment;
   LateBound functions(L"Vorlan.SB_GeneralFunctions");
   arguments_by_reference(functions);
+  arguments_left_alone(functions);
+  arguments_left_out(functions);
   names(functions);
   errors();
   arrays(functions);
   type_library(functions);
+  two_threads();
+  calls_back(functions);
   std::printf("%d checks, %d failed\n", checks, failures);
   return failures == 0 && checks > 0 ? 0 : 1;
 } catch (const Error& error) {

@@ -55,7 +55,32 @@ sent.CreateMessage own
 Equal "the configuration reached through the script's sector", own.Length, 64
 Equal "its colour code", own.Octet(3), 16
 
+' Arrays that the script declares, values that an object stands for, collections.
+Dim fixed(0), free, expression, testSet, channel, found
+fixed(0) = 7
+parameters.InitialiseArrayForPersonalityCount fixed, 0
+Equal "an array of a fixed size", UBound(fixed) & " " & fixed(0), "0 7"
+ReDim free(0)
+parameters.InitialiseArrayForPersonalityCount free, 1
+Equal "one that grows", UBound(free) & " " & free(1), "1 -1"
+Set expression = New RegExp
+expression.Pattern = "[01]+"
+Set sent = CreateObject("Vorlan.SB_Ses_MsgSessionClose")
+sent.Initialize Null
+sent.PRstr_CloseReason = expression.Execute("x 00000111 y")(0)
+Equal "an object's default property", sent.PRstr_CloseReason, "00000111"
+Set testSet = CreateObject("VorlanSim.TestSet")
+Set channel = testSet.ForwardChannels("FC_SECTOR 0")
+For Each channel In testSet.ForwardChannels
+  found = found + 1
+  Holds "each in its place", channel Is testSet.ForwardChannels(found)
+Next
+Equal "all of them", found, 1
+
 On Error Resume Next
+parameters.InitialiseArrayForPersonalityCount fixed, 1
+Equal "an array that cannot grow", Err.Number, 10
+Err.Clear
 sent.CreateMessage New Refusing
 ' The host may keep the source and the text of it to itself.
 Equal "the script's own error", Err.Number, -2147221503

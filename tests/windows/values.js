@@ -20,7 +20,9 @@ message.Octet(2) = 7;
 equal("an indexed property", message.octet(2), 7);
 
 var sent = new ActiveXObject("Vorlan.SB_Ses_MsgSessionClose");
-sent.Initialize(undefined);
+sent.Initialize(null);
+sent.PRstr_CloseReason = new String("00000101");
+equal("a value in an object", sent.PRstr_CloseReason, "00000101");
 try {
   sent.PRstr_CloseReason = "11";
   equal("an error", false, true);

@@ -1,57 +1,88 @@
 #include "server/com/call_arguments.hpp"
 
+#include <algorithm>
+
 #include "automation/error.hpp"
+#include "server/com/foreign_object.hpp"
 
 namespace vorlan::com {
 
-CallArguments::CallArguments(const MemberInfo& member, const DISPPARAMS& parameters, bool assigns, Objects& objects)
+CallArguments::CallArguments(const MemberInfo& member, const DISPPARAMS& parameters, WORD kind, Objects& objects)
     : member_(member), objects_(objects) {
+  take(parameters, assigns(kind));
+  values_.reserve(given_.size());
+  for (std::size_t i = 0; i < given_.size(); ++i) {
+    ValueType due = ValueType::Any;
+    if (i < indices_) {
+      if (i < member.parameters.size()) due = member.parameters[i].type;
+    } else if ((kind & DISPATCH_PROPERTYPUT) != 0) {
+      due = member.type;
+    }
+    values_.push_back(given_[i] != nullptr ? value_of(*given_[i], due) : Value());
+    if (!goes_back(i)) continue;
+    before_.resize(i + 1);
+    before_[i] = values_[i];
+  }
+}
+
+void CallArguments::take(const DISPPARAMS& parameters, bool assigns) {
   VARIANT* assigned = nullptr;
   const UINT named = parameters.cNamedArgs;
-  const UINT positional = parameters.cArgs - named;
-  values_.reserve(parameters.cArgs);
-  given_.reserve(parameters.cArgs);
-  for (UINT i = 0; i < positional; ++i) place(i, parameters.rgvarg[parameters.cArgs - 1 - i]);
+  if (named > parameters.cArgs) throw Error(ErrorNumber::WrongArgumentCount);
+  for (UINT i = parameters.cArgs; i > named; --i) given_.push_back(&parameters.rgvarg[i - 1]);
   for (UINT i = 0; i < named; ++i) {
     const DISPID name = parameters.rgdispidNamedArgs[i];
     if (name == DISPID_PROPERTYPUT) {
       assigned = &parameters.rgvarg[i];
-    } else {
-      const auto position = static_cast<std::size_t>(name);
-      if (name < 0 || position >= member.parameters.size() ||
-          (position < given_.size() && given_[position] != nullptr)) {
-        throw Error(ErrorNumber::WrongArgumentCount);
-      }
-      place(position, parameters.rgvarg[i]);
+      continue;
     }
+    const auto position = static_cast<std::size_t>(name);
+    if (name < 0 || position >= member_.parameters.size()) throw Error(ErrorNumber::WrongArgumentCount);
+    if (position >= given_.size()) given_.resize(position + 1);
+    if (given_[position] != nullptr) throw Error(ErrorNumber::WrongArgumentCount);
+    given_[position] = &parameters.rgvarg[i];
   }
   // Some clients do not name the value that they assign: it is the last one.
   if (assigns && assigned == nullptr && !given_.empty()) {
     assigned = given_.back();
     given_.pop_back();
-    values_.pop_back();
   }
-  while (!given_.empty() && (given_.back() == nullptr || is_left_out(*given_.back()))) {
-    given_.pop_back();
-    values_.pop_back();
-  }
-  if (assigned != nullptr) place(given_.size(), *assigned);
+  while (!given_.empty() && (given_.back() == nullptr || is_left_out(*given_.back()))) given_.pop_back();
+  indices_ = given_.size();
+  if (assigned != nullptr) given_.push_back(assigned);
+  check_left_out();
 }
 
-void CallArguments::place(std::size_t position, VARIANT& given) {
-  if (position >= values_.size()) {
-    values_.resize(position + 1);
-    given_.resize(position + 1);
+void CallArguments::check_left_out() const {
+  const std::size_t known = std::min(indices_, member_.parameters.size());
+  for (std::size_t i = 0; i < given_.size(); ++i) {
+    const bool optional = i < known && i >= member_.required_parameters();
+    if (!optional && (given_[i] == nullptr || is_left_out(*given_[i]))) {
+      throw Error(ErrorNumber::WrongArgumentCount);
+    }
   }
-  values_[position] = to_value(given, objects_);
-  given_[position] = &given;
+}
+
+Value CallArguments::value_of(const VARIANT& given, ValueType due) {
+  Value value = to_value(given, objects_);
+  if (due == ValueType::Object && value.is(ValueType::Null)) return Ref<Object>();
+  const bool is_plain = due >= ValueType::Boolean && due <= ValueType::String;
+  const auto* object = value.as<Ref<Object>>();
+  if (!is_plain || object == nullptr) return value;
+  if (auto* foreign = dynamic_cast<ForeignObject*>(object->get())) {
+    if (std::optional<Value> meant = foreign->default_value()) return *std::move(meant);
+  }
+  return value;
+}
+
+bool CallArguments::goes_back(std::size_t position) const noexcept {
+  return position < std::min(indices_, member_.parameters.size()) && member_.parameters[position].by_reference &&
+         given_[position] != nullptr && (given_[position]->vt & VT_BYREF) != 0;
 }
 
 void CallArguments::give_back() {
-  for (std::size_t i = 0; i < values_.size() && i < member_.parameters.size(); ++i) {
-    if (given_[i] != nullptr && member_.parameters[i].by_reference) {
-      assign_to_reference(*given_[i], values_[i], objects_);
-    }
+  for (std::size_t i = 0; i < before_.size(); ++i) {
+    if (goes_back(i) && !(values_[i] == before_[i])) assign_to_reference(*given_[i], values_[i], objects_);
   }
 }
 

@@ -5,6 +5,7 @@
 
 #include "automation/error.hpp"
 #include "server/com/foreign_object.hpp"
+#include "server/com/turn.hpp"
 
 namespace vorlan::com {
 
@@ -20,6 +21,7 @@ class Client::WatchfulClock final : public Clock {
   [[nodiscard]] std::chrono::milliseconds ticks() const override { return clock_->ticks(); }
   [[nodiscard]] std::string month_name(int month) const override { return clock_->month_name(month); }
   void sleep(std::chrono::milliseconds time) override {
+    const Pause others_meanwhile;
     std::unique_lock guard(mutex_);
     if (woken_.wait_for(guard, time, [this] { return ended_; })) throw Error(kServerGone, {}, "The client has ended.");
   }
@@ -70,9 +72,13 @@ Clients::Process& Clients::start(DWORD id) {
   made->id = id;
   made->client = all_.back().get();
   Process& process = *(processes_[id] = std::move(made));
-  if (id != 0) process.handle = OpenProcess(SYNCHRONIZE, FALSE, id);
+  if (id == 0) return process;
+  process.handle = OpenProcess(SYNCHRONIZE, FALSE, id);
   if (process.handle != nullptr) {
     RegisterWaitForSingleObject(&process.wait, process.handle, &on_end, &process, INFINITE, WT_EXECUTEONLYONCE);
+  } else if (GetLastError() == ERROR_INVALID_PARAMETER) {  // it has ended meanwhile
+    ended_.push_back(id);
+    SetEvent(wake_);
   }
   return process;
 }

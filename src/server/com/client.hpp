@@ -1,4 +1,4 @@
-// The processes that use the server. Each has a platform, a lock and an end of its own.
+// The processes that use the server. Each has a platform, turns and an end of its own.
 #pragma once
 
 #include <windows.h>
@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "platform/platform.hpp"
-#include "server/com/call_lock.hpp"
 #include "server/com/variant.hpp"
 
 namespace vorlan::com {
@@ -42,7 +41,8 @@ class Client final : public Objects {
   IDispatch* face_of(const Ref<Object>& object) override { return directory_.face_of(object, *this); }
 
   [[nodiscard]] Platform& platform() noexcept { return platform_; }
-  [[nodiscard]] CallLock& lock() noexcept { return lock_; }
+  /// What its calls take turns by.
+  [[nodiscard]] std::mutex& turns() noexcept { return turns_; }
   /// Wakes the client's calls that sleep.
   void end();
 
@@ -50,7 +50,7 @@ class Client final : public Objects {
   class WatchfulClock;
 
   Directory& directory_;
-  CallLock lock_;
+  std::mutex turns_;
   std::shared_ptr<WatchfulClock> clock_;
   Platform platform_;
 };

@@ -52,9 +52,6 @@ class ComPointer {
   T* pointer_ = nullptr;
 };
 
-inline std::wstring_view view(const OLECHAR* text) noexcept {
-  return text != nullptr ? std::wstring_view(text) : std::wstring_view();
-}
 inline std::wstring_view view(const BSTR& text) noexcept { return {text != nullptr ? text : L"", SysStringLen(text)}; }
 
 /// The caller frees it.

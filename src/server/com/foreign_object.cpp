@@ -7,12 +7,13 @@
 
 #include "server/com/com_error.hpp"
 #include "server/com/guid.hpp"
+#include "server/com/turn.hpp"
 
 namespace vorlan::com {
 
 namespace {
 
-/// Arguments as COM takes them, last one first. By reference, each is a Variant that refers to another one.
+/// Arguments as COM takes them, last one first, and the result. By reference, each is a Variant that refers to another.
 class Arguments {
  public:
   Arguments(std::span<const Value> values, bool by_reference, Objects& objects)
@@ -27,7 +28,15 @@ class Arguments {
       passed.pvarVal = &held;
     }
   }
+  Arguments(const Arguments&) = delete;
+  Arguments& operator=(const Arguments&) = delete;
+  ~Arguments() {
+    const Pause others_meanwhile;
+    held_.reset();
+    VariantClear(result_.get());
+  }
   std::vector<VARIANT>& passed() noexcept { return passed_; }
+  Variant& result() noexcept { return result_; }
   void take_back(std::span<Value> values) {
     for (std::size_t i = 0; i < values.size(); ++i) values[i] = to_value(*held_[i], objects_);
   }
@@ -36,12 +45,14 @@ class Arguments {
   Objects& objects_;
   std::unique_ptr<Variant[]> held_;
   std::vector<VARIANT> passed_;
+  Variant result_;
 };
 
 // {a6ef9860-c720-11d0-9337-00a0c90dcaa9}; not every compiler's libraries have it.
 constexpr IID kExtended{0xA6EF9860, 0xC720, 0x11D0, {0x93, 0x37, 0x00, 0xA0, 0xC9, 0x0D, 0xCA, 0xA9}};
 
 std::string class_of(IDispatch& dispatch) {
+  const Pause others_meanwhile;
   ComPointer<ITypeInfo> info;
   BSTR name = nullptr;
   if (FAILED(dispatch.GetTypeInfo(0, LOCALE_USER_DEFAULT, info.out())) || !info ||
@@ -57,9 +68,24 @@ std::string class_of(IDispatch& dispatch) {
 
 ForeignObject::ForeignObject(ComPointer<IDispatch> dispatch, Objects& objects) noexcept
     : dispatch_(std::move(dispatch)), objects_(objects) {}
-ForeignObject::~ForeignObject() = default;
+ForeignObject::~ForeignObject() { Turn::release_after(ComPointer<IUnknown>(dispatch_.detach())); }
 
 ComPointer<IDispatchEx> ForeignObject::extended() const { return dispatch_.as<IDispatchEx>(kExtended); }
+
+HRESULT ForeignObject::ask_for(const std::wstring& name, Member& member) {
+  const Pause others_meanwhile;
+  auto* names = const_cast<wchar_t*>(name.c_str());
+  const HRESULT result = dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &member.id);
+  if (SUCCEEDED(result)) return result;
+  // Some script engines answer names here alone, and others are particular about capitals there.
+  const auto other = extended();
+  if (!other) return result;
+  member.extended = true;
+  const BSTR text = SysAllocString(names);
+  const HRESULT other_result = other->GetDispID(text, fdexNameCaseInsensitive, &member.id);
+  SysFreeString(text);
+  return other_result;
+}
 
 ForeignObject::Member ForeignObject::find(std::string_view name) {
   {
@@ -67,19 +93,8 @@ ForeignObject::Member ForeignObject::find(std::string_view name) {
     const auto known = members_.find(name);
     if (known != members_.end()) return known->second;
   }
-  std::wstring wide = wide_text(name);
-  wchar_t* names = wide.data();
   Member member{DISPID_UNKNOWN, false};
-  HRESULT result = dispatch_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &member.id);
-  if (FAILED(result)) {
-    // Some script engines answer names here alone, and others are particular about capitals there.
-    if (const auto other = extended()) {
-      const BSTR text = SysAllocString(names);
-      member.extended = true;
-      result = other->GetDispID(text, fdexNameCaseInsensitive, &member.id);
-      SysFreeString(text);
-    }
-  }
+  const HRESULT result = ask_for(wide_text(name), member);
   // The default member is known by its number, whatever it is called.
   if (FAILED(result) && equals_ignoring_case(name, "Item")) return {DISPID_VALUE, false};
   if (FAILED(result)) {
@@ -97,6 +112,7 @@ HRESULT ForeignObject::call(const Member& member, WORD kind, DISPPARAMS& paramet
                             EXCEPINFO& information) {
   const bool assigns = (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
   VARIANT* answer = assigns ? nullptr : result.get();
+  const Pause others_meanwhile;
   if (member.extended) {
     const auto other = extended();
     if (!other) return E_NOINTERFACE;
@@ -130,7 +146,6 @@ HRESULT ForeignObject::try_kinds(const Member& member, Access access, DISPPARAMS
 Value ForeignObject::invoke(std::string_view member, Access access, std::span<Value> arguments) {
   const Member found = find(member);
   const bool assigns = access == Access::Let || access == Access::Set;
-  Variant result;
   EXCEPINFO information{};
   DISPID value_name = DISPID_PROPERTYPUT;
   HRESULT status = E_FAIL;
@@ -138,17 +153,35 @@ Value ForeignObject::invoke(std::string_view member, Access access, std::span<Va
     Arguments passed(arguments, by_reference, objects_);
     DISPPARAMS parameters{passed.passed().data(), assigns ? &value_name : nullptr, static_cast<UINT>(arguments.size()),
                           assigns ? 1U : 0U};
-    status = try_kinds(found, access, parameters, result, information);
+    status = try_kinds(found, access, parameters, passed.result(), information);
     // A server that wants plain values has refused before it did anything.
-    if (by_reference && status == DISP_E_TYPEMISMATCH) continue;
+    if (by_reference && (status == DISP_E_TYPEMISMATCH || status == DISP_E_BADVARTYPE)) continue;
     if (by_reference) passed.take_back(arguments);
+    if (SUCCEEDED(status)) return to_value(*passed.result(), objects_);
     break;
   }
-  if (FAILED(status)) throw error_of(status, information, class_of(*dispatch_.get()).append(".").append(member));
-  return to_value(*result, objects_);
+  throw error_of(status, information, class_of(*dispatch_.get()).append(".").append(member));
+}
+
+std::optional<Value> ForeignObject::default_value() {
+  Arguments none({}, false, objects_);
+  EXCEPINFO information{};
+  DISPPARAMS parameters{};
+  const HRESULT status = try_kinds({DISPID_VALUE, false}, Access::Get, parameters, none.result(), information);
+  if (SUCCEEDED(status)) return to_value(*none.result(), objects_);
+  if (status == DISP_E_EXCEPTION) throw error_of(status, information, class_of(*dispatch_.get()));
+  return {};
+}
+
+Ref<Object> foreign_object_of(IUnknown& unknown, Objects& objects) {
+  const Pause others_meanwhile;
+  auto dispatch = ComPointer<IUnknown>::sharing(&unknown).as<IDispatch>(IID_IDispatch);
+  if (!dispatch) throw Error(ErrorNumber::TypeMismatch, {}, "the object is not for automation");
+  return make<ForeignObject>(std::move(dispatch), objects);
 }
 
 Ref<Object> create_foreign_object(std::string_view prog_id, Objects& objects) {
+  const Pause others_meanwhile;
   CLSID id;
   if (FAILED(CLSIDFromProgID(wide_text(prog_id).c_str(), &id)) || IsEqualGUID(id, guid_of(class_uuid(prog_id))) != 0) {
     return {};
@@ -158,7 +191,9 @@ Ref<Object> create_foreign_object(std::string_view prog_id, Objects& objects) {
       CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IDispatch, made.out_void());
   // Registered for programs of another kind, such as 32-bit ones.
   if (result == REGDB_E_CLASSNOTREG) return {};
-  check(result, prog_id);
+  if (FAILED(result)) {
+    throw Error(ErrorNumber::CannotCreateObject, "Vorlan", std::string(prog_id) + ": " + system_text(result));
+  }
   return make<ForeignObject>(std::move(made), objects);
 }
 

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <mutex>
+#include <optional>
 #include <string>
 
 #include "automation/object.hpp"
@@ -13,7 +14,8 @@ struct IDispatchEx;
 
 namespace vorlan::com {
 
-/// Members are called by name; their numbers are asked for once. Arguments of a call travel by reference.
+/// Members are called by name; their numbers are asked for once. Arguments of a call travel by reference. Whatever
+/// goes outside leaves the caller's turn to others meanwhile.
 class ForeignObject final : public Object {
  public:
   ForeignObject(ComPointer<IDispatch> dispatch, Objects& objects) noexcept;
@@ -21,6 +23,8 @@ class ForeignObject final : public Object {
 
   [[nodiscard]] IDispatch* dispatch() const noexcept { return dispatch_.get(); }
   Value invoke(std::string_view member, Access access, std::span<Value> arguments) override;
+  /// The value of the default property; none if there is no such property.
+  std::optional<Value> default_value();
 
  private:
   struct Member {
@@ -29,6 +33,7 @@ class ForeignObject final : public Object {
   };
 
   Member find(std::string_view name);
+  HRESULT ask_for(const std::wstring& name, Member& member);
   ComPointer<IDispatchEx> extended() const;
   HRESULT call(const Member& member, WORD kind, DISPPARAMS& parameters, Variant& result, EXCEPINFO& information);
   HRESULT try_kinds(const Member& member, Access access, DISPPARAMS& parameters, Variant& result,
@@ -39,6 +44,9 @@ class ForeignObject final : public Object {
   std::mutex mutex_;
   std::map<std::string, Member, std::less<>> members_;
 };
+
+/// What stands for an object outside; error 13 if it is none of automation's.
+Ref<Object> foreign_object_of(IUnknown& unknown, Objects& objects);
 
 /// Creates an object of another server. Nothing if no other server than this one offers it to this process; error 429
 /// if the one that does fails.

@@ -20,13 +20,19 @@ HANDLE new_event() {
 }  // namespace
 
 Host::Host(const Registry& registry, Client::MakePlatform make_platform)
-    : registry_(registry), wake_(new_event()), clients_(*this, std::move(make_platform), wake_) {}
+    : registry_(registry), wake_(new_event()), clients_(*this, std::move(make_platform), wake_.get()) {}
 
-Host::~Host() { CloseHandle(wake_); }
+void Host::release_process() noexcept {
+  if (CoReleaseServerProcess() <= 1) SetEvent(wake());
+}
 
-const MemberIds& Host::ids_of(const ClassInfo& info) {
+const ClassIds& Host::ids_of(const ClassInfo& info) {
   const std::scoped_lock guard(mutex_);
-  return ids_.try_emplace(&info, info).first->second;
+  const auto known = ids_.find(&info);
+  if (known != ids_.end()) return known->second;
+  const Registry::Class* found = registry_.find(info.name());
+  const IID interface_id = found != nullptr ? guid_of(members_uuid(found->prog_id())) : IID_NULL;
+  return ids_.emplace(&info, ClassIds{MemberIds(info), interface_id}).first->second;
 }
 
 ComPointer<ITypeInfo> Host::type_info(const ClassInfo& info, Uuid (*number)(std::string_view)) {
@@ -68,9 +74,7 @@ Ref<Object> Host::object_of(IUnknown* unknown, Client& client) {
     own = faces_.count(may_be_own) != 0;
   }
   if (own) return static_cast<ServedObject*>(may_be_own)->object(client);
-  auto dispatch = ComPointer<IUnknown>::sharing(unknown).as<IDispatch>(IID_IDispatch);
-  if (!dispatch) throw Error(ErrorNumber::TypeMismatch, {}, "the object is not for automation");
-  return make<ForeignObject>(std::move(dispatch), client);
+  return foreign_object_of(*unknown, client);
 }
 
 IDispatch* Host::face_of(const Ref<Object>& object, Client& client) {
@@ -78,7 +82,7 @@ IDispatch* Host::face_of(const Ref<Object>& object, Client& client) {
   if (const auto* foreign = dynamic_cast<ForeignObject*>(object.get())) {
     return ComPointer<IDispatch>::sharing(foreign->dispatch()).detach();
   }
-  const MemberIds& ids = ids_of(ServedObject::info_of(*object));
+  const ClassIds& ids = ids_of(ServedObject::info_of(*object));
   const std::scoped_lock guard(mutex_);
   const auto known = by_object_.find(object.get());
   if (known != by_object_.end() && known->second->add_reference_if_alive()) return known->second;

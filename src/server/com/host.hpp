@@ -13,15 +13,23 @@ namespace vorlan::com {
 
 class ServedObject;
 
+/// The numbers of one class.
+struct ClassIds {
+  MemberIds members;
+  /// Of the members as the type library has them, which clients ask for that were compiled with it; null for a class
+  /// that is in no library.
+  IID interface_id;
+};
+
 class Host final : private Directory {
  public:
   Host(const Registry& registry, Client::MakePlatform make_platform);
   Host(const Host&) = delete;
   Host& operator=(const Host&) = delete;
-  ~Host();
+  ~Host() = default;
 
   [[nodiscard]] Clients& clients() noexcept { return clients_; }
-  const MemberIds& ids_of(const ClassInfo& info);
+  const ClassIds& ids_of(const ClassInfo& info);
   /// What the type library says of a class under one of its numbers; empty if the library is not registered.
   ComPointer<ITypeInfo> type_info(const ClassInfo& info, Uuid (*number)(std::string_view prog_id));
 
@@ -29,8 +37,10 @@ class Host final : private Directory {
   void add_object(ServedObject& face, const Object& object);
   void remove(ServedObject& face, const Object* object) noexcept;
 
-  /// Set when a client has ended or the last object is gone.
-  [[nodiscard]] HANDLE wake() const noexcept { return wake_; }
+  /// Set when a client has ended or the last object or lock is gone.
+  [[nodiscard]] HANDLE wake() const noexcept { return wake_.get(); }
+  /// Gives up a reference to the process; the server's own is left at the end.
+  void release_process() noexcept;
   /// Lets go of what clients have left behind that are no more.
   void clear_up();
 
@@ -38,13 +48,17 @@ class Host final : private Directory {
   Ref<Object> object_of(IUnknown* unknown, Client& client) override;
   IDispatch* face_of(const Ref<Object>& object, Client& client) override;
 
+  struct Closing {
+    void operator()(HANDLE handle) const noexcept { CloseHandle(handle); }
+  };
+
   const Registry& registry_;
-  HANDLE wake_;
+  std::unique_ptr<std::remove_pointer_t<HANDLE>, Closing> wake_;
   Clients clients_;
   std::mutex mutex_;
   std::unordered_set<IDispatch*> faces_;
   std::unordered_map<const Object*, ServedObject*> by_object_;
-  std::unordered_map<const ClassInfo*, MemberIds> ids_;
+  std::unordered_map<const ClassInfo*, ClassIds> ids_;
   std::unordered_map<std::string_view, ComPointer<ITypeLib>> libraries_;
 };
 

@@ -17,10 +17,9 @@ constexpr const char* kVersion = "1";
 /// Below Software\Classes of the machine or the user.
 class ClassesKey {
  public:
-  explicit ClassesKey(Scope scope) {
-    const HKEY root = scope == Scope::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
-    check_status(RegCreateKeyExW(root, L"Software\\Classes", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr),
-                 "registry, Software\\Classes");
+  explicit ClassesKey(Scope scope) : root_(scope == Scope::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE) {
+    check_status(RegCreateKeyExW(root_, L"Software\\Classes", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr),
+                 "registry, Software\\Classes (an administrator's, without /user)");
   }
   ClassesKey(const ClassesKey&) = delete;
   ClassesKey& operator=(const ClassesKey&) = delete;
@@ -33,12 +32,13 @@ class ClassesKey {
                                  REG_SZ, wide.c_str(), static_cast<DWORD>((wide.size() + 1) * sizeof(wchar_t))),
                  "registry, " + path);
   }
-  /// The key's own value; empty if there is none.
-  [[nodiscard]] std::string read(const std::string& path) const {
+  [[nodiscard]] HKEY root() const noexcept { return root_; }
+  /// The own value of a key below Software\Classes; empty if there is none.
+  [[nodiscard]] static std::string read(HKEY root, const std::string& path) {
     std::wstring text(1024, L'\0');
     auto octets = static_cast<DWORD>(text.size() * sizeof(wchar_t));
-    if (RegGetValueW(key_, wide_text(path).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &octets) !=
-        ERROR_SUCCESS) {
+    if (RegGetValueW(root, wide_text("Software\\Classes\\" + path).c_str(), nullptr, RRF_RT_REG_SZ, nullptr,
+                     text.data(), &octets) != ERROR_SUCCESS) {
       return {};
     }
     text.resize(octets / sizeof(wchar_t) - 1);
@@ -60,6 +60,7 @@ class ClassesKey {
   }
 
  private:
+  HKEY root_;
   HKEY key_ = nullptr;
 };
 
@@ -76,24 +77,31 @@ struct Names {
   std::string class_key;
 };
 
-/// Whether a programmatic identifier is free, or stands for our class already.
-bool is_ours(const ClassesKey& key, const Names& names, const std::string& prog_id) {
-  const std::string there = key.read(prog_id + "\\CLSID");
+/// Whether a programmatic identifier is free there, or stands for our class already.
+bool is_ours(HKEY root, const Names& names, const std::string& prog_id) {
+  const std::string there = ClassesKey::read(root, prog_id + "\\CLSID");
   return there.empty() || equals_ignoring_case(there, names.class_id);
 }
+/// Whether it is another server's where we would hide that one, or be hidden by it.
+bool is_taken(Scope scope, const Names& names, const std::string& prog_id) {
+  return !is_ours(HKEY_LOCAL_MACHINE, names, prog_id) ||
+         (scope == Scope::User && !is_ours(HKEY_CURRENT_USER, names, prog_id));
+}
 
-void enter_class(ClassesKey& key, const Registry::Class& cls, const std::filesystem::path& program) {
+void enter_class(ClassesKey& key, const Registry::Class& cls, const Registration& registration) {
   const Names names(cls);
   const std::string summary(cls.info().summary());
-  if (!is_ours(key, names, names.prog_id) || !is_ours(key, names, names.versioned)) return;
+  const std::string program = narrow_text(registration.program.wstring());
+  if (is_taken(registration.scope, names, names.prog_id) || is_taken(registration.scope, names, names.versioned))
+    return;
   key.write(names.prog_id, "", summary);
   key.write(names.prog_id + "\\CLSID", "", names.class_id);
   key.write(names.prog_id + "\\CurVer", "", names.versioned);
   key.write(names.versioned, "", summary);
   key.write(names.versioned + "\\CLSID", "", names.class_id);
   key.write(names.class_key, "", summary);
-  key.write(names.class_key + "\\LocalServer32", "", "\"" + narrow_text(program.wstring()) + "\"");
-  key.write(names.class_key + "\\LocalServer32", "ServerExecutable", narrow_text(program.wstring()));
+  key.write(names.class_key + "\\LocalServer32", "", "\"" + program + "\"");
+  key.write(names.class_key + "\\LocalServer32", "ServerExecutable", program);
   key.write(names.class_key + "\\ProgID", "", names.versioned);
   key.write(names.class_key + "\\VersionIndependentProgID", "", names.prog_id);
   key.write(names.class_key + "\\TypeLib", "", registry_text(library_uuid(cls.server)));
@@ -104,9 +112,10 @@ void enter_class(ClassesKey& key, const Registry::Class& cls, const std::filesys
 void take_out_class(ClassesKey& key, const Registry::Class& cls) {
   const Names names(cls);
   for (const std::string& prog_id : {names.prog_id, names.versioned}) {
-    if (is_ours(key, names, prog_id)) key.remove(prog_id);
+    if (is_ours(key.root(), names, prog_id)) key.remove(prog_id);
   }
   key.remove(names.class_key);
+  key.remove("Interface\\" + registry_text(members_uuid(names.prog_id)));  // which stay if their library is gone
 }
 
 /// Beside the program; for one user in the folder where programs keep a user's data.
@@ -136,13 +145,21 @@ void enter_library(const Registry& registry, const Registration& registration, c
         "type library");
 }
 
-void take_out_library(const Registration& registration, const std::string& server) {
+void take_out_library(ClassesKey& key, const Registration& registration, const std::string& server) {
   const GUID id = guid_of(library_uuid(server));
-  const HRESULT result = registration.scope == Scope::User
-                             ? UnRegisterTypeLibForUser(id, kLibraryMajor, kLibraryMinor, LOCALE_NEUTRAL, SYS_WIN64)
-                             : UnRegisterTypeLib(id, kLibraryMajor, kLibraryMinor, LOCALE_NEUTRAL, SYS_WIN64);
-  if (result == E_ACCESSDENIED) fail(result, "type library");
+  const std::string library_key = "TypeLib\\" + registry_text(library_uuid(server));
+  const std::string version = std::to_string(kLibraryMajor) + "." + std::to_string(kLibraryMinor);
+  // The program may have been moved since.
+  const std::string file = ClassesKey::read(key.root(), library_key + "\\" + version + "\\0\\win64");
+  // It fails where the file is gone; what it leaves is taken out by hand.
+  if (registration.scope == Scope::User) {
+    UnRegisterTypeLibForUser(id, kLibraryMajor, kLibraryMinor, LOCALE_NEUTRAL, SYS_WIN64);
+  } else {
+    UnRegisterTypeLib(id, kLibraryMajor, kLibraryMinor, LOCALE_NEUTRAL, SYS_WIN64);
+  }
+  key.remove(library_key);
   std::error_code ignored;  // in use, or not there
+  if (!file.empty()) std::filesystem::remove(wide_text(file), ignored);
   std::filesystem::remove(library_file(registration, server), ignored);
 }
 
@@ -156,21 +173,26 @@ std::vector<std::string> servers_of(const Registry& registry) {
   return servers;
 }
 
-void enter(const Registry& registry, const Registration& registration) {
-  take_out(registry, registration);
+void register_server(const Registry& registry, const Registration& registration) {
+  unregister_server(registry, registration);
   try {
     ClassesKey key(registration.scope);
-    for (const Registry::Class& cls : registry.classes()) enter_class(key, cls, registration.program);
+    for (const Registry::Class& cls : registry.classes()) enter_class(key, cls, registration);
     for (const std::string& server : servers_of(registry)) enter_library(registry, registration, server);
   } catch (const std::exception&) {
-    take_out(registry, registration);
-    throw;
+    const auto cause = std::current_exception();
+    try {
+      unregister_server(registry, registration);
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch)
+      // Why it could not be registered is what people want to know.
+    }
+    std::rethrow_exception(cause);
   }
 }
 
-void take_out(const Registry& registry, const Registration& registration) {
-  for (const std::string& server : servers_of(registry)) take_out_library(registration, server);
-  ClassesKey key(registration.scope);
+void unregister_server(const Registry& registry, const Registration& registration) {
+  ClassesKey key(registration.scope);  // first: who may not open it is to change nothing
+  for (const std::string& server : servers_of(registry)) take_out_library(key, registration, server);
   for (const Registry::Class& cls : registry.classes()) take_out_class(key, cls);
   // A user who had no classes before has none now.
   for (const wchar_t* shared : {L"CLSID", L"TypeLib", L"Interface"}) key.remove_if_empty(shared);

@@ -49,8 +49,8 @@ class Factory final : public IClassFactory {
   HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override {
     if (lock != FALSE) {
       CoAddRefServerProcess();
-    } else if (CoReleaseServerProcess() == 0) {
-      SetEvent(host_.wake());
+    } else {
+      host_.release_process();
     }
     return S_OK;
   }
@@ -61,18 +61,30 @@ class Factory final : public IClassFactory {
   DWORD cookie_ = 0;
 };
 
-/// Whether objects or locks keep the process. At none, COM takes no more activations by itself.
+// The server has a reference of its own to its process: as long as it has it, COM does not stop taking activations.
+
+/// Whether objects or locks keep the process, too.
 bool is_in_use() noexcept {
   CoAddRefServerProcess();
-  return CoReleaseServerProcess() != 0;
+  return CoReleaseServerProcess() > 1;
 }
 
-void wait_for_the_last(Host& host) {
-  constexpr DWORD kFirstWait = 60'000;  // ms; whoever started us may have died since
-  for (DWORD patience = kFirstWait;; patience = INFINITE) {
-    WaitForSingleObject(host.wake(), patience);
+/// Gives the server's own reference up if it is the last. COM takes no more activations then.
+bool gave_up_the_last() noexcept {
+  if (CoReleaseServerProcess() == 0) return true;
+  CoAddRefServerProcess();
+  return false;
+}
+
+/// Waits until nobody has used the server for a while: a script often lets go of its last object right before it
+/// creates the next one.
+void wait_for_the_last(Host& host, DWORD patience) {
+  constexpr DWORD kLinger = 2'000;  // ms
+  CoAddRefServerProcess();
+  for (;; patience = is_in_use() ? INFINITE : kLinger) {
+    const bool woken = WaitForSingleObject(host.wake(), patience) == WAIT_OBJECT_0;
     host.clear_up();
-    if (!is_in_use()) return;
+    if (!woken && !is_in_use() && gave_up_the_last()) return;
   }
 }
 
@@ -84,12 +96,11 @@ void serve(const Registry& registry, const Client::MakePlatform& make_platform) 
   const Apartment apartment;  // left first: nothing comes in then
   for (const Registry::Class& cls : registry.classes()) factories.emplace_back(host, cls).offer();
   check(CoResumeClassObjects(), "classes");
-  wait_for_the_last(host);
+  constexpr DWORD kFirstWait = 20'000;  // ms; whoever started us may have died since
+  wait_for_the_last(host, kFirstWait);
   for (Factory& factory : factories) factory.withdraw();
-  // Where the system does not hold activations back, one may have come in between, or be on its way.
-  constexpr DWORD kGrace = 200;  // ms
-  WaitForSingleObject(host.wake(), kGrace);
-  if (is_in_use()) wait_for_the_last(host);
+  // Where the system does not hold activations back, one may have come in meanwhile.
+  wait_for_the_last(host, 0);
 }
 
 }  // namespace vorlan::com

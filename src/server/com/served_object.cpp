@@ -6,14 +6,9 @@
 #include "automation/error.hpp"
 #include "server/com/call_arguments.hpp"
 #include "server/com/com_error.hpp"
+#include "server/com/turn.hpp"
 
 namespace vorlan::com {
-
-namespace {
-
-constexpr WORD kAssigns = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
-
-}  // namespace
 
 const ClassInfo& ServedObject::info_of(const Object& object) {
   static const ClassInfo kPlain{{"Object", "An object that can be handed on.", {}}, {}};
@@ -27,15 +22,12 @@ ServedObject::ServedObject(Host& host, const ClassEntry& entry)
   CoAddRefServerProcess();
 }
 
-ServedObject::ServedObject(Host& host, Client& client, Ref<Object> object, const MemberIds& ids)
+ServedObject::ServedObject(Host& host, Client& client, Ref<Object> object, const ClassIds& ids)
     : host_(host), info_(info_of(*object)), ids_(ids), client_(&client), object_(std::move(object)) {
   CoAddRefServerProcess();
 }
 
-ServedObject::~ServedObject() {
-  object_ = {};
-  if (CoReleaseServerProcess() == 0) SetEvent(host_.wake());
-}
+ServedObject::~ServedObject() { host_.release_process(); }
 
 bool ServedObject::add_reference_if_alive() noexcept {
   ULONG count = references_;
@@ -48,6 +40,11 @@ ULONG ServedObject::Release() noexcept {
   const ULONG left = --references_;
   if (left == 0) {
     host_.remove(*this, object_.get());
+    if (Client* owner = client_) {
+      // What the object holds may be in use elsewhere.
+      const Turn turn(owner->turns());
+      object_ = {};
+    }
     delete this;
   }
   return left;
@@ -56,12 +53,15 @@ ULONG ServedObject::Release() noexcept {
 HRESULT ServedObject::QueryInterface(REFIID iid, void** out) noexcept {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
-  if (IsEqualGUID(iid, IID_IUnknown) != 0 || IsEqualGUID(iid, IID_IDispatch) != 0) {
+  if (IsEqualGUID(iid, IID_IUnknown) != 0 || IsEqualGUID(iid, IID_IDispatch) != 0 ||
+      (IsEqualGUID(iid, ids_.interface_id) != 0 && IsEqualGUID(iid, IID_NULL) == 0)) {
     *out = static_cast<IDispatch*>(this);
   } else if (IsEqualGUID(iid, IID_ISupportErrorInfo) != 0) {
     *out = static_cast<ISupportErrorInfo*>(this);
   } else if (IsEqualGUID(iid, IID_IProvideClassInfo) != 0) {
     *out = static_cast<IProvideClassInfo*>(this);
+  } else if (IsEqualGUID(iid, IID_IEnumVARIANT) != 0 && next_ != 0) {
+    *out = static_cast<IEnumVARIANT*>(this);
   } else {
     return E_NOINTERFACE;
   }
@@ -121,7 +121,7 @@ HRESULT ServedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, D
     client();
     const int member = info_.find(PreparedName(narrow_text(names[0])));
     if (member < 0) return DISP_E_UNKNOWNNAME;
-    ids[0] = ids_.id(member);
+    ids[0] = ids_.members.id(member);
     const auto& parameters = info_.members()[static_cast<std::size_t>(member)].parameters;
     HRESULT result = S_OK;
     for (UINT i = 1; i < count; ++i) {
@@ -137,13 +137,15 @@ HRESULT ServedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, D
     return result;
   } catch (const std::bad_alloc&) {
     return E_OUTOFMEMORY;
+  } catch (const std::exception&) {
+    return E_UNEXPECTED;
   }
 }
 
 Value ServedObject::call(const MemberInfo& member, WORD kind, DISPPARAMS& parameters, Client& caller) {
-  const bool assigns = (kind & kAssigns) != 0;
+  const bool assigns = CallArguments::assigns(kind);
   const Ref<Object> target = object(caller);
-  CallArguments arguments(member, parameters, assigns, caller);
+  CallArguments arguments(member, parameters, kind, caller);
   const std::span<Value> values = arguments.values();
   // As in `Channels("FC_SECTOR 0")`: a property without parameters gives an object, whose default member is meant.
   if (!assigns && !member.is_method() && member.parameters.empty() && !values.empty()) {
@@ -171,12 +173,13 @@ HRESULT ServedObject::Invoke(DISPID id, REFIID iid, LCID, WORD kind, DISPPARAMS*
                              EXCEPINFO* information, UINT*) noexcept {
   if (IsEqualGUID(iid, IID_NULL) == 0) return DISP_E_UNKNOWNINTERFACE;
   if (parameters == nullptr) return E_INVALIDARG;
-  const int index = ids_.member(id);
+  const int index = ids_.members.member(id);
+  if (id == DISPID_NEWENUM && result != nullptr && is_collection()) return enumerate(*result);
   if (index < 0) return DISP_E_MEMBERNOTFOUND;
   const MemberInfo& member = info_.members()[static_cast<std::size_t>(index)];
   try {
     Client& owner = client();
-    const std::scoped_lock guard(owner.lock());
+    const Turn turn(owner.turns());
     const Value answer = call(member, kind, *parameters, owner);
     if (result != nullptr) to_variant(answer, *result, owner);
     return S_OK;

@@ -9,18 +9,20 @@
 
 namespace vorlan::com {
 
-class ServedObject final : public IDispatch, public ISupportErrorInfo, public IProvideClassInfo {
+/// A collection, which has `Count` and an `Item` that takes numbers from 1 on, can be gone through: an enumeration is
+/// the same object once more, with a place in it.
+class ServedObject final : public IDispatch, public ISupportErrorInfo, public IProvideClassInfo, public IEnumVARIANT {
  public:
   /// A new object of a class. It is made by the first call, which tells whose it is: activation comes from the system.
   ServedObject(Host& host, const ClassEntry& entry);
   /// An object that a call gives back; its class is that of info_of().
-  ServedObject(Host& host, Client& client, Ref<Object> object, const MemberIds& ids);
+  ServedObject(Host& host, Client& client, Ref<Object> object, const ClassIds& ids);
   ServedObject(const ServedObject&) = delete;
   ServedObject& operator=(const ServedObject&) = delete;
 
   static const ClassInfo& info_of(const Object& object);
 
-  /// The object itself; made for this client if it is not there yet. The client's lock is held.
+  /// The object itself; made for this client if it is not there yet. It is the caller's turn.
   const Ref<Object>& object(Client& client);
   [[nodiscard]] bool is_of(const Client& client) const noexcept {
     const Client* owner = client_;
@@ -43,19 +45,27 @@ class ServedObject final : public IDispatch, public ISupportErrorInfo, public IP
   HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) noexcept override;
   HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) noexcept override;
 
+  HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* items, ULONG* given) noexcept override;
+  HRESULT STDMETHODCALLTYPE Skip(ULONG count) noexcept override;
+  HRESULT STDMETHODCALLTYPE Reset() noexcept override;
+  HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** enumeration) noexcept override;
+
  private:
   ~ServedObject();
   Client& client();
   Value call(const MemberInfo& member, WORD kind, DISPPARAMS& parameters, Client& client);
+  [[nodiscard]] bool is_collection() const noexcept;
+  HRESULT enumerate(VARIANT& enumeration) noexcept;
 
   std::atomic<ULONG> references_{1};
   Host& host_;
   const ClassEntry* entry_ = nullptr;
   const ClassInfo& info_;
-  const MemberIds& ids_;
+  const ClassIds& ids_;
   std::atomic<Client*> client_{nullptr};
   std::atomic<const Client*> asked_by_{nullptr};  ///< who holds it, as far as is known before the first call
   Ref<Object> object_;
+  std::int32_t next_ = 0;  ///< of an enumeration: the item that comes next; 0: it is none
 };
 
 }  // namespace vorlan::com

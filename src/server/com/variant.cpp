@@ -6,6 +6,8 @@
 
 #include "server/com/com_error.hpp"
 #include "server/com/com_pointer.hpp"
+#include "server/com/safe_array.hpp"
+#include "server/com/turn.hpp"
 
 namespace vorlan::com {
 
@@ -39,64 +41,26 @@ Value real_number(const VARIANT& variant) {
   return real->dblVal;
 }
 
-/// An array's elements, from its outermost dimension inwards.
-class ArrayReader {
- public:
-  ArrayReader(SAFEARRAY* array, VARTYPE type, Objects& objects)
-      : array_(array), type_(type), objects_(objects), index_(SafeArrayGetDim(array)) {}
-
-  Value::Array read(UINT dimension = 1) {
-    LONG first = 0;
-    LONG last = -1;
-    if (FAILED(SafeArrayGetLBound(array_, dimension, &first)) || FAILED(SafeArrayGetUBound(array_, dimension, &last))) {
-      mismatch();
-    }
-    Value::Array values;
-    for (LONG i = first; i <= last; ++i) {
-      index_[dimension - 1] = i;
-      values.push_back(dimension < index_.size() ? Value(read(dimension + 1)) : element());
-    }
-    return values;
+void assign_typed(VARIANT& reference, Variant& value) {
+  const auto type = static_cast<VARTYPE>(reference.vt & ~VT_BYREF);
+  change_type(value, type);
+  if (const std::size_t size = number_size(type); size != 0) {
+    std::memcpy(reference.byref, &value->byref, size);
+  } else if (type == VT_DECIMAL) {
+    *reference.pdecVal = value->decVal;
+    reference.pdecVal->wReserved = 0;
+  } else if (type == VT_BSTR) {
+    SysFreeString(std::exchange(*reference.pbstrVal, value.detach().bstrVal));
+  } else if (type == VT_DISPATCH || type == VT_UNKNOWN) {
+    Turn::release_after(ComPointer<IUnknown>(std::exchange(*reference.ppunkVal, value.detach().punkVal)));
+  } else {
+    mismatch();
   }
-
- private:
-  Value element() {
-    Variant held;
-    void* place = &held->byref;
-    if (type_ == VT_VARIANT) place = held.get();
-    if (type_ == VT_DECIMAL) place = &held->decVal;
-    if (FAILED(SafeArrayGetElement(array_, index_.data(), place))) mismatch();
-    if (type_ != VT_VARIANT) held->vt = type_;
-    return to_value(*held, objects_);
-  }
-
-  SAFEARRAY* array_;
-  VARTYPE type_;
-  Objects& objects_;
-  std::vector<LONG> index_;
-};
-
-Value::Array array_of(const VARIANT& variant, Objects& objects) {
-  SAFEARRAY* array = (variant.vt & VT_BYREF) != 0 ? *variant.pparray : variant.parray;
-  if (array == nullptr || SafeArrayGetDim(array) == 0) return {};
-  return ArrayReader(array, variant.vt & VT_TYPEMASK, objects).read();
 }
 
-SAFEARRAY* new_array(const Value::Array& values, Objects& objects) {
-  SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(values.size()));
-  if (array == nullptr) throw std::bad_alloc();
-  auto* elements = static_cast<VARIANT*>(array->pvData);
-  try {
-    for (const Value& value : values) to_variant(value, *elements++, objects);
-  } catch (...) {
-    SafeArrayDestroy(array);
-    throw;
-  }
-  return array;
-}
+}  // namespace
 
-/// Octets of a number that a reference refers to; 0: not a number.
-std::size_t size_of(VARTYPE type) noexcept {
+std::size_t number_size(VARTYPE type) noexcept {
   switch (type) {
     case VT_I1:
     case VT_UI1: return 1;
@@ -118,35 +82,16 @@ std::size_t size_of(VARTYPE type) noexcept {
   }
 }
 
-void assign_typed(VARIANT& reference, Variant& value) {
-  const auto type = static_cast<VARTYPE>(reference.vt & ~VT_BYREF);
-  if (const HRESULT result = VariantChangeTypeEx(value.get(), value.get(), LOCALE_INVARIANT, VARIANT_ALPHABOOL, type);
-      FAILED(result)) {
-    throw Error(result == DISP_E_OVERFLOW ? ErrorNumber::Overflow : ErrorNumber::TypeMismatch);
-  }
-  if (const std::size_t size = size_of(type); size != 0) {
-    std::memcpy(reference.byref, &value->byref, size);
-  } else if (type == VT_DECIMAL) {
-    *reference.pdecVal = value->decVal;
-    reference.pdecVal->wReserved = 0;
-  } else if (type == VT_BSTR) {
-    SysFreeString(std::exchange(*reference.pbstrVal, value.detach().bstrVal));
-  } else if (type == VT_DISPATCH || type == VT_UNKNOWN) {
-    IUnknown* before = std::exchange(*reference.ppunkVal, value.detach().punkVal);
-    if (before != nullptr) before->Release();
-  } else if ((type & VT_ARRAY) != 0) {
-    if (FAILED(SafeArrayDestroy(*reference.pparray))) mismatch();
-    *reference.pparray = value.detach().parray;
-  } else {
-    mismatch();
-  }
+void change_type(Variant& value, VARTYPE type) {
+  if (type == VT_VARIANT) return;
+  const Pause others_meanwhile;  // an object is asked for its default property
+  const HRESULT result = VariantChangeTypeEx(value.get(), value.get(), LOCALE_INVARIANT, VARIANT_ALPHABOOL, type);
+  if (FAILED(result)) throw Error(result == DISP_E_OVERFLOW ? ErrorNumber::Overflow : ErrorNumber::TypeMismatch);
 }
 
-}  // namespace
-
 Value to_value(const VARIANT& variant, Objects& objects) {
-  if ((variant.vt & VT_ARRAY) != 0) return array_of(variant, objects);
-  if (variant.vt == (VT_BYREF | VT_VARIANT)) return to_value(*variant.pvarVal, objects);
+  if ((variant.vt & VT_ARRAY) != 0) return read_array(variant, objects);
+  if (variant.vt == (VT_BYREF | VT_VARIANT)) return to_value(referred(variant), objects);
   if ((variant.vt & VT_BYREF) != 0) {
     Variant copy;
     if (FAILED(VariantCopyInd(copy.get(), const_cast<VARIANT*>(&variant)))) mismatch();
@@ -231,12 +176,26 @@ void to_variant(const Value& value, VARIANT& variant, Objects& objects) {
 
 void assign_to_reference(VARIANT& reference, const Value& value, Objects& objects) {
   if ((reference.vt & VT_BYREF) == 0) return;
-  Variant made;
-  to_variant(value, *made, objects);
-  if (reference.vt != (VT_BYREF | VT_VARIANT)) return assign_typed(reference, made);
+  if (reference.vt != (VT_BYREF | VT_VARIANT)) {
+    if ((reference.vt & VT_ARRAY) != 0) {
+      return assign_array(*reference.pparray, reference.vt & VT_TYPEMASK, value, objects);
+    }
+    Variant made;
+    to_variant(value, *made, objects);
+    return assign_typed(reference, made);
+  }
   VARIANT& target = *reference.pvarVal;
   // A script's variable may itself refer to another one.
   if ((target.vt & VT_BYREF) != 0) return assign_to_reference(target, value, objects);
+  if ((target.vt & VT_ARRAY) != 0 && value.is(ValueType::Array)) {
+    return assign_array(target.parray, target.vt & VT_TYPEMASK, value, objects);
+  }
+  Variant made;
+  to_variant(value, *made, objects);
+  if (target.vt == VT_DISPATCH || target.vt == VT_UNKNOWN) {
+    target.vt = VT_EMPTY;
+    Turn::release_after(ComPointer<IUnknown>(target.punkVal));
+  }
   VariantClear(&target);
   target = made.detach();
 }
