@@ -1,4 +1,5 @@
-// A property read through the D-Bus server beside the bare bus library's echo, by turns, on the bus of this session.
+// A property read through the D-Bus server, from a client's own worker and from an open session, beside the bare bus
+// library's echo, by turns, on the bus of this session.
 //
 //   vorlan_dbus_bench [ROUNDS]    prints "name  nanoseconds ns" for each, medians of the rounds
 #include <sys/prctl.h>
@@ -9,6 +10,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <vector>
 
 #include "server/dbus/bus.hpp"
@@ -58,6 +60,30 @@ double median(std::vector<double> figures) {
   return figures[figures.size() / 2];
 }
 
+/// An object's worker and path.
+struct Made {
+  std::string worker;
+  std::string path;
+};
+
+Made create(sd_bus* bus, const char* service, const char* interface) {
+  const Message create = new_call(bus, service, kRootPath, interface, "Create");
+  check(sd_bus_message_append(create.get(), "s", "SB_Ses_MsgSessionClose"), "class");
+  const Message made = call(bus, create);
+  const char* worker = nullptr;
+  const char* path = nullptr;
+  check(sd_bus_message_read(made.get(), "so", &worker, &path), "object");
+  return {worker, path};
+}
+
+/// The bus name of a session that ends with this process.
+std::string open_session(sd_bus* bus) {
+  const Message open = new_call(bus, kServerName, kRootPath, kServerInterface, "OpenSession");
+  const auto process = static_cast<std::uint32_t>(getpid());
+  check(sd_bus_message_append(open.get(), "us", process, ("bench" + std::to_string(process)).c_str()), "session");
+  return read_text(call(bus, open).get());
+}
+
 void measure(int rounds) {
   const Bus bus = open_session_bus();
   // Until the echo is there, the bus knows no such name.
@@ -68,20 +94,16 @@ void measure(int rounds) {
     return there;
   };
   while (!is_there()) usleep(1000);
-  const Message create = new_call(bus.get(), kServerName, kRootPath, kServerInterface, "Create");
-  check(sd_bus_message_append(create.get(), "s", "SB_Ses_MsgSessionClose"), "class");
-  const Message made = call(bus.get(), create);
-  const char* worker = nullptr;
-  const char* path = nullptr;
-  check(sd_bus_message_read(made.get(), "so", &worker, &path), "object");
+  const Made own = create(bus.get(), kServerName, kServerInterface);
+  const Made shared = create(bus.get(), open_session(bus.get()).c_str(), kWorkerInterface);
 
   const auto echo_once = [&] {
     const Message question = new_call(bus.get(), kEcho, "/", kEcho, "Echo");
     check(sd_bus_message_append(question.get(), "s", "00000001"), "echo");
     read_text(call(bus.get(), question).get());
   };
-  const auto read_once = [&] {
-    const Message question = new_call(bus.get(), worker, path, kProperties, "Get");
+  const auto read_once = [&](const Made& object) {
+    const Message question = new_call(bus.get(), object.worker.c_str(), object.path.c_str(), kProperties, "Get");
     check(sd_bus_message_append(question.get(), "ss", "Vorlan.SB_Ses_MsgSessionClose", "PRstr_MessageID"), "property");
     const Message answer = call(bus.get(), question);
     check(sd_bus_message_enter_container(answer.get(), 'v', "s"), "property");
@@ -89,11 +111,14 @@ void measure(int rounds) {
   };
   std::vector<double> echoes;
   std::vector<double> reads;
+  std::vector<double> shared_reads;
   for (int round = 0; round < rounds; ++round) {
     echoes.push_back(nanoseconds_each(echo_once));
-    reads.push_back(nanoseconds_each(read_once));
+    reads.push_back(nanoseconds_each([&] { read_once(own); }));
+    shared_reads.push_back(nanoseconds_each([&] { read_once(shared); }));
   }
-  std::printf("D-Bus property  %.0f ns\nD-Bus echo  %.0f ns\n", median(reads), median(echoes));
+  std::printf("D-Bus property  %.0f ns\nD-Bus property, open session  %.0f ns\nD-Bus echo  %.0f ns\n", median(reads),
+              median(shared_reads), median(echoes));
 }
 
 }  // namespace

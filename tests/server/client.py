@@ -36,6 +36,15 @@ def refusal(number, source, description):
     return AutomationError("Vorlan.Error.Number" + str(number).replace("-", "Minus"), f"{source}\n{description}")
 
 
+def error_of(call):
+    """The error that a call raises."""
+    try:
+        call()
+    except AutomationError as error:
+        return error
+    raise AssertionError("no error was raised")
+
+
 def raise_error(error):
     raise AutomationError(error.get_dbus_name(), error.get_dbus_message())
 

@@ -1,10 +1,12 @@
 """Calls that no honest client makes: each is answered with an error, and the worker lives on."""
 
+import os
 import random
+import signal
 
 import dbus
 import pytest
-from client import EMPTY, AutomationError
+from client import EMPTY, AutomationError, ScriptObject, error_of
 
 DBUS_ERROR = "org.freedesktop.DBus.Error."
 PROPERTIES = dbus.PROPERTIES_IFACE
@@ -36,7 +38,7 @@ BAD_CALLS = [
     (PROPERTIES, "Get", "ss", ["Test.Nobody", "Held"], "UnknownProperty"),
     (PROPERTIES, "Get", "s", ["Held"], "InvalidArgs"),
     (PROPERTIES, "Set", "ssv", ["Test.Probe", "Octets", "x"], "PropertyReadOnly"),
-    (PROPERTIES, "Set", "ssv", ["Vorlan.Object", "Class", "x"], "UnknownProperty"),
+    (PROPERTIES, "Set", "ssv", ["Vorlan.Object", "Class", "x"], "PropertyReadOnly"),
     (PROPERTIES, "GetAll", "s", ["Test.Nobody"], "UnknownInterface"),
     (dbus.INTROSPECTABLE_IFACE, "Introspect", "s", ["all"], "InvalidArgs"),
     ("Test.Probe", "Echo", "v", [dbus.ObjectPath("/Vorlan/Probe/999")], "UnknownObject"),
@@ -47,9 +49,8 @@ BAD_CALLS = [
 @pytest.mark.parametrize("interface, member, signature, arguments, error", BAD_CALLS)
 def test_a_call_that_does_not_fit_is_refused(client, interface, member, signature, arguments, error):
     probe = client.create("Probe")
-    with pytest.raises(AutomationError) as raised:
-        client.call(probe.service, probe.path, interface, member, signature, *arguments)
-    assert raised.value.name == DBUS_ERROR + error
+    raised = error_of(lambda: client.call(probe.service, probe.path, interface, member, signature, *arguments))
+    assert raised.name == DBUS_ERROR + error
     assert probe.call("Echo", "v", "alive") == "alive"
 
 
@@ -57,9 +58,8 @@ def test_a_call_that_does_not_fit_is_refused(client, interface, member, signatur
                                   "/Vorlan/Probe/18446744073709551617", "/" + "x" * 60_000], ids=lambda path: path[:20])
 def test_a_path_without_an_object_is_refused(client, path):
     probe = client.create("Probe")
-    with pytest.raises(AutomationError) as raised:
-        client.call(probe.service, path, "Test.Probe", "Echo", "v", 1)
-    assert raised.value.name == DBUS_ERROR + "UnknownObject"
+    raised = error_of(lambda: client.call(probe.service, path, "Test.Probe", "Echo", "v", 1))
+    assert raised.name == DBUS_ERROR + "UnknownObject"
 
 
 def test_the_front_process_refuses_what_it_does_not_offer(client):
@@ -68,32 +68,58 @@ def test_the_front_process_refuses_what_it_does_not_offer(client):
             ("/Vorlan", "Vorlan.Server", "Create", "i", [dbus.Int32(1)], "InvalidArgs"),
             ("/Vorlan", "Vorlan.Server", "Destroy", "", [], "UnknownMethod"),
             ("/Vorlan/Probe", "Test.Probe", "Echo", "v", [1], "UnknownMethod"),
+            ("/Vorlan", PROPERTIES, "Get", "ss", ["Vorlan.Server", "Name"], "UnknownProperty"),
+            ("/Vorlan/Probe", PROPERTIES, "GetAll", "s", ["Test.Nobody"], "UnknownInterface"),
+            ("/Vorlan/Nobody", PROPERTIES, "GetAll", "s", [""], "UnknownObject"),
             ("/Vorlan/Nobody", dbus.INTROSPECTABLE_IFACE, "Introspect", "", [], "UnknownObject"),
             ("/nowhere", "Vorlan.Server", "Classes", "", [], "UnknownMethod")]:
-        with pytest.raises(AutomationError) as raised:
-            client.call("Vorlan.Server", path, interface, member, signature, *arguments)
-        assert raised.value.name == DBUS_ERROR + error
+        raised = error_of(lambda: client.call("Vorlan.Server", path, interface, member, signature, *arguments))
+        assert raised.name == DBUS_ERROR + error
+    for member, arguments, error in [("Get", ["Vorlan.Worker", "Size"], "UnknownProperty"),
+                                     ("Set", ["Vorlan.Worker", "Objects", 1], "PropertyReadOnly"),
+                                     ("GetAll", ["Test.Nobody"], "UnknownInterface")]:
+        client.create("Probe")
+        raised = error_of(lambda: client.worker.start(PROPERTIES, member, "ssv"[:len(arguments)], *arguments).wait())
+        assert raised.name == DBUS_ERROR + error
     for name in ("", ".", "Vorlan.", "SB_\n", "x" * 1_000_000):
-        with pytest.raises(AutomationError) as raised:
-            client.create(name)
-        assert raised.value.number == 429
+        assert error_of(lambda: client.create(name)).number == 429
     assert client.create("Probe").call("Echo", "v", "alive") == "alive"
 
 
 def test_values_of_any_size_and_depth(client):
     probe = client.create("Probe")
     huge = "1" * 100_000_000
+    report = ScriptObject(client, "/report", lambda *_: None)
+    functions = client.create("SB_GeneralFunctions")
+    # What the bus does not carry: the answer is too large, an argument returned is, a call of the script's object is.
+    for too_large in (lambda: functions.call("ConvertAsctoBinary", "s", huge[:9_000_000]),
+                      lambda: probe.invoke("Echo", "Call", huge[:32_000_000]),
+                      lambda: probe.call("CallObject", "(so)sv", report.reference, "Go", huge)):
+        raised = error_of(too_large)
+        assert raised.number == 6 and "more than a message of the bus carries" in raised.description
+    assert error_of(lambda: probe.set("Held", nested(30))).number == 13
+    probe.set("Held", nested(20))
+    assert probe.start(PROPERTIES, "GetAll", "s", "Test.Probe").wait()["Held"] == nested(20)
+    probe.set("Held", huge[:32_000_000])
+    assert "Held" not in probe.start(PROPERTIES, "GetAll", "s", "Test.Probe").wait()
     message = client.create("SB_Ses_MsgSessionClose")
-    with pytest.raises(AutomationError) as raised:
-        message.set("PRstr_CloseReason", huge)
-    assert raised.value.key()[:2] == (1, "SB_Ses_MsgSessionClose.PRstr_CloseReason")
-    with pytest.raises(AutomationError) as raised:
-        message.invoke(huge[:1_000_000], "Call")
-    assert raised.value.number == 438
+    raised = error_of(lambda: message.set("PRstr_CloseReason", huge[:10_000_000]))
+    assert raised.key()[:2] == (1, "SB_Ses_MsgSessionClose.PRstr_CloseReason")
+    assert error_of(lambda: message.invoke(huge[:1_000_000], "Call")).number == 438
     assert len(probe.call("Echo", "v", huge[:10_000_000])) == 10_000_000
-    assert probe.call("Echo", "v", nested(20)) == nested(20)
     assert len(probe.call("Echo", "v", dbus.Array(range(100_000), signature="i"))) == 100_000
     assert message.get("PRstr_CloseReason") == ""
+
+
+def test_a_client_whose_worker_does_not_answer_does_not_keep_others_from_theirs(client, other_client):
+    client.create("Probe")
+    os.kill(client.worker_process(), signal.SIGSTOP)
+    started = [client.start("Vorlan.Server", "/Vorlan", "Vorlan.Server", "Create", "s", "Probe") for _ in range(600)]
+    assert error_of(started[-1].wait).name == DBUS_ERROR + "LimitsExceeded"
+    assert other_client.create("Probe").call("Echo", "v", "alive") == "alive"
+    os.kill(client.worker_process(), signal.SIGCONT)
+    started[0].wait()
+    assert client.create("Probe").call("Echo", "v", "alive") == "alive"
 
 
 def test_random_calls(client):

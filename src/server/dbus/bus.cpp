@@ -2,7 +2,15 @@
 
 #include <system_error>
 
+#include "server/dbus/wire_text.hpp"
+
 namespace vorlan::dbus {
+
+namespace {
+
+constexpr std::size_t kLongestRefusal = 10'000;
+
+}  // namespace
 
 int check(int result, const char* doing) {
   if (result < 0) throw std::system_error(-result, std::generic_category(), doing);
@@ -60,7 +68,8 @@ void send_reply(sd_bus_message* call, sd_bus_message* reply) {
 
 void send_refusal(sd_bus_message* call, const char* name, const char* text) noexcept {
   // Where the refusal cannot be sent either, there is no one left to send it to.
-  const sd_bus_error error{name, text, 0};
+  const std::string shown = to_bus_text(std::string_view(text).substr(0, kLongestRefusal));
+  const sd_bus_error error{name, shown.c_str(), 0};
   sd_bus_reply_method_error(call, &error);
 }
 

@@ -43,7 +43,15 @@ Message new_call(sd_bus* bus, const char* service, const char* path, const char*
 Message new_return(sd_bus_message* call);
 /// Sends a reply, unless the caller wants none.
 void send_reply(sd_bus_message* call, sd_bus_message* reply);
+/// The text is cut off where it is longer than any that is meant to be read.
 void send_refusal(sd_bus_message* call, const char* name, const char* text) noexcept;
+
+template <class... Values>
+void reply_with(sd_bus_message* call, const char* signature, Values... values) {
+  const Message reply = new_return(call);
+  if (*signature != '\0') check(sd_bus_message_append(reply.get(), signature, values...), "reply");
+  send_reply(call, reply.get());
+}
 
 /// Refuses a call whose arguments are not those of `signature`.
 void require_signature(sd_bus_message* call, const char* signature);

@@ -9,7 +9,7 @@ namespace vorlan::dbus {
 namespace {
 
 constexpr const char* kSetter = "Set_";
-/// The mark by which systemd's tools know a property that GetAll leaves out.
+/// The mark by which systemd's tools know a property that GetAll leaves out. Handing out an object is a change, too.
 constexpr const char* kExplicit = "   <annotation name=\"org.freedesktop.systemd1.Explicit\" value=\"true\"/>\n";
 
 std::string documentation(std::string_view summary) {
@@ -36,13 +36,17 @@ std::string property_xml(const MemberInfo& member) {
   return std::string("  <property name=\"") + std::string(member.name) + "\" type=\"" + signature_of(member.type) +
          "\" access=\"" + access + "\">\n" +
          "   <annotation name=\"org.freedesktop.DBus.Property.EmitsChangedSignal\" value=\"false\"/>\n" +
-         (member.get_changes ? kExplicit : "") + documentation(member.summary) + "  </property>\n";
+         (is_shown(member) ? "" : kExplicit) + documentation(member.summary) + "  </property>\n";
 }
 
 }  // namespace
 
 bool is_bus_property(const MemberInfo& member) noexcept {
   return !member.is_method() && member.required_parameters() == 0;
+}
+
+bool is_shown(const MemberInfo& member) noexcept {
+  return member.gets && !member.get_changes && member.type != ValueType::Object;
 }
 
 Access assignment_of(const MemberInfo& member, const Value& value) noexcept {
@@ -98,10 +102,10 @@ const BusMethod* ClassInterface::method(std::string_view name) const noexcept {
 }
 
 std::string ClassInterface::xml() const {
-  std::string xml = " <interface name=\"" + name_ + "\">\n";
-  for (const auto& method : methods_) xml += method_xml(*method);
-  for (const MemberInfo* member : properties_) xml += property_xml(*member);
-  return xml + " </interface>\n";
+  std::string members;
+  for (const auto& method : methods_) members += method_xml(*method);
+  for (const MemberInfo* member : properties_) members += property_xml(*member);
+  return interface_xml(name_, members);
 }
 
 const ClassInterface& ClassInterfaces::of(const ClassInfo& info) {

@@ -40,6 +40,8 @@ struct BusMethod {
 
 /// A property of a class that is one on the bus.
 [[nodiscard]] bool is_bus_property(const MemberInfo& member) noexcept;
+/// Whether GetAll shows a property: not if reading it has an effect, such as handing out an object.
+[[nodiscard]] bool is_shown(const MemberInfo& member) noexcept;
 /// How a value is assigned: objects by Set where the property can be set, anything else by Let.
 [[nodiscard]] Access assignment_of(const MemberInfo& member, const Value& value) noexcept;
 

@@ -11,6 +11,8 @@ namespace vorlan::dbus {
 namespace {
 
 constexpr const char* kCalling = "call of a client's object";
+/// The bus library takes no message with more before its values.
+constexpr std::size_t kLongestPath = 60'000;
 
 struct Answer {
   Pump::Wait wait;
@@ -37,6 +39,7 @@ Ref<Object> ClientObject::of(Clients& clients, const Reference& name) {
   if (sd_bus_service_name_is_valid(name.service.c_str()) == 0) {
     throw Error(ErrorNumber::TypeMismatch, {}, "\"" + name.service + "\" is no bus name");
   }
+  if (name.path.size() > kLongestPath) throw Error(ErrorNumber::TypeMismatch, {}, "a path too long");
   return Ref<Object>::adopt(new ClientObject(clients, name));
 }
 
@@ -51,8 +54,10 @@ Value ClientObject::invoke(std::string_view member, Access access, std::span<Val
   const Ref<Object> held(this);
   const std::string name(member);
   const Message call = new_call(clients_.bus, name_.service.c_str(), name_.path.c_str(), kObjectInterface, "Invoke");
-  check(sd_bus_message_append(call.get(), "ss", name.c_str(), text_of(access)), kCalling);
-  append_values(call.get(), arguments, clients_.references);
+  Writer writer(call.get(), clients_.references);
+  writer.append(ValueType::String, name);
+  writer.append(ValueType::String, text_of(access));
+  writer.append_all(arguments);
 
   Answer answer;
   sd_bus_slot* made = nullptr;

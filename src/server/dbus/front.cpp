@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <optional>
 #include <stdexcept>
 #include <system_error>
 
@@ -25,16 +26,21 @@ struct Front::Session {
   Source worker_end = {};
   Descriptor holder{};  ///< of an open session: the process that it lasts as long as
   Source holder_end = {};
-  bool lost = false;  ///< the worker has left the bus, and its end is about to be noticed
+  bool lost = false;       ///< the worker has left the bus, and its end is about to be noticed
+  unsigned under_way = 0;  ///< calls that the worker has not answered yet
 };
 
 /// A call that was passed on to a worker.
 struct Front::PassedOn {
   Front& front;
+  std::string worker;
   Message call;
 };
 
 namespace {
+
+/// The bus counts the calls that the front waits for, and none of its clients is to use them up for all others.
+constexpr std::size_t kMostCalls = 500;
 
 constexpr const char* kOwnerOnly = "Only the user who owns the bus may use this server.";
 constexpr const char* kClientsLeaving =
@@ -106,10 +112,11 @@ int Front::on_call(sd_bus_message* call) noexcept {
   return 1;
 }
 
-void Front::require_owner(sd_bus_message* call) const {
+void Front::require_owner(sd_bus_message* call) {
   const char* sender = sd_bus_message_get_sender(call);
-  if (sessions_.contains(std::string_view(sender)) || is_of_user(bus_.get(), sender, owner_)) return;
-  throw Refusal{SD_BUS_ERROR_ACCESS_DENIED, kOwnerOnly};
+  if (admitted_.contains(std::string_view(sender))) return;
+  if (!is_of_user(bus_.get(), sender, owner_)) throw Refusal{SD_BUS_ERROR_ACCESS_DENIED, kOwnerOnly};
+  admitted_.emplace(sender);
 }
 
 void Front::create(sd_bus_message* call) {
@@ -117,6 +124,9 @@ void Front::create(sd_bus_message* call) {
   const std::string client = sd_bus_message_get_sender(call);
   const auto known = sessions_.find(client);
   Session& session = known != sessions_.end() ? *known->second : add(start(client));
+  if (session.under_way + session.waiting.size() >= kMostCalls) {
+    throw Refusal{SD_BUS_ERROR_LIMITS_EXCEEDED, "Too many calls of this client wait for its worker."};
+  }
   if (session.lost) return session.waiting.push_back(hold(call));
   pass_on(session, hold(call));
 }
@@ -130,12 +140,13 @@ void Front::open_session(sd_bus_message* call) {
     throw Refusal{SD_BUS_ERROR_INVALID_ARGS, name + " is taken, or not a name that the bus allows."};
   }
   const auto holder = static_cast<pid_t>(process);
-  if (!is_process_of(holder, owner_)) {
+  // In this order: what is watched cannot become another process any more.
+  std::optional<Descriptor> watched = watch_process(holder);
+  if (!watched || !is_process_of(holder, owner_)) {
     throw Refusal{SD_BUS_ERROR_INVALID_ARGS, "No process " + std::to_string(process) + " of the bus's owner."};
   }
-  Descriptor watched = watch_process(holder);
   auto session = start(name);
-  session->holder = std::move(watched);
+  session->holder = std::move(*watched);
   session->holder_end = watch<&Front::on_holder_end>(session->holder, *session);
   pass_on(add(std::move(session)), hold(call));
 }
@@ -188,45 +199,52 @@ void Front::on_ready(Session& session) {
 void Front::pass_on(Session& session, Message call) {
   if (session.worker.empty()) return session.waiting.push_back(std::move(call));
   if (sd_bus_message_is_method_call(call.get(), nullptr, "OpenSession") > 0) {
-    const Message reply = new_return(call.get());
-    check(sd_bus_message_append(reply.get(), "s", session.client.c_str()), "answer");
-    return send_reply(call.get(), reply.get());
+    return reply_with(call.get(), "s", session.client.c_str());
   }
   check(sd_bus_message_rewind(call.get(), 1), "call");  // it may have been passed on to a worker before
   const Message create = new_call(bus_.get(), session.worker.c_str(), kRootPath, kWorkerInterface, "Create");
   check(sd_bus_message_append(create.get(), "s", read_text(call.get()).c_str()), "class");
-  auto passed_on = std::make_unique<PassedOn>(PassedOn{*this, std::move(call)});
+  auto passed_on = std::make_unique<PassedOn>(PassedOn{*this, session.worker, std::move(call)});
   check(sd_bus_call_async(
             bus_.get(), nullptr, create.get(),
             [](sd_bus_message* answer, void* passed, sd_bus_error*) {
               const std::unique_ptr<PassedOn> held(static_cast<PassedOn*>(passed));
-              held->front.return_answer(answer, std::move(held->call));
+              held->front.return_answer(answer, *held);
               return 1;
             },
             passed_on.get(), UINT64_MAX),
         "worker");
-  static_cast<void>(passed_on.release());  // return_answer has it now
+  static_cast<void>(passed_on.release());  // the answer's function has it now
+  ++session.under_way;
 }
 
-void Front::return_answer(sd_bus_message* answer, Message call) noexcept {
+void Front::return_answer(sd_bus_message* answer, const PassedOn& passed_on) noexcept {
+  sd_bus_message* call = passed_on.call.get();
+  const auto known = sessions_.find(std::string_view(sd_bus_message_get_sender(call)));
+  // Another worker may have taken the place of the one that was asked, or none.
+  const bool same_worker = known != sessions_.end() && known->second->worker == passed_on.worker;
+  if (same_worker) --known->second->under_way;
   try {
     const sd_bus_error* error = sd_bus_message_get_error(answer);
     if (error == nullptr) {
-      const Message reply = new_return(call.get());
+      const Message reply = new_return(call);
       check(sd_bus_message_copy(reply.get(), answer, 1), "answer");
-      return send_reply(call.get(), reply.get());
+      return send_reply(call, reply.get());
     }
     if (sd_bus_error_has_name(error, SD_BUS_ERROR_SERVICE_UNKNOWN) == 0) {
-      sd_bus_reply_method_error(call.get(), error);
+      sd_bus_reply_method_error(call, error);
       return;
     }
     // The worker has crashed since its last answer: the client gets a new one, as soon as the old one's end is noticed.
-    const auto known = sessions_.find(std::string_view(sd_bus_message_get_sender(call.get())));
-    if (known == sessions_.end()) return create(call.get());
+    if (!same_worker) {
+      on_call(call);
+      return;
+    }
     known->second->lost = true;
-    known->second->waiting.push_back(std::move(call));
+    known->second->process.kill();
+    known->second->waiting.push_back(hold(call));
   } catch (const std::exception& error) {
-    if (call) send_refusal(call.get(), SD_BUS_ERROR_FAILED, error.what());
+    send_refusal(call, SD_BUS_ERROR_FAILED, error.what());
   }
 }
 
@@ -249,6 +267,7 @@ void Front::on_holder_end(Session& session) {
 }
 
 void Front::on_client_left(std::string_view client) noexcept {
+  if (const auto admitted = admitted_.find(client); admitted != admitted_.end()) admitted_.erase(admitted);
   const auto left = sessions_.find(client);
   // The worker's end is noticed like any other's.
   if (left != sessions_.end()) left->second->process.kill();

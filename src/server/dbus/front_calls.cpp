@@ -9,56 +9,63 @@ namespace vorlan::dbus {
 
 namespace {
 
-constexpr std::string_view kServerXml = R"xml( <interface name="Vorlan.Server">
-  <method name="Create"><arg type="s" name="class" direction="in"/><arg type="s" name="service" direction="out"/>
-   <arg type="o" name="path" direction="out"/></method>
-  <method name="Classes"><arg type="a(ss)" name="classes" direction="out"/></method>
+constexpr std::string_view kServerMembers =
+    R"xml(  <method name="Classes"><arg type="a(ss)" name="classes" direction="out"/></method>
   <method name="OpenSession"><arg type="u" name="process" direction="in"/><arg type="s" name="name" direction="in"/>
    <arg type="s" name="service" direction="out"/></method>
- </interface>
 )xml";
 
 }  // namespace
 
 void Front::dispatch(sd_bus_message* call) {
+  const Target target(call);
+  const bool own = target.path == kRootPath && target.is_for(kServerInterface);
+  const bool creates = own && target.member == "Create";
+  const bool opens = own && target.member == "OpenSession";
+  // All else has no effect but its answer.
+  if (!creates && !opens && sd_bus_message_get_expect_reply(call) == 0) return;
   require_owner(call);
-  const std::string path = sd_bus_message_get_path(call);
-  if (sd_bus_message_is_method_call(call, kIntrospectable, "Introspect") > 0) return introspect(call, path);
-  if (sd_bus_message_is_method_call(call, kProperties, "GetAll") > 0) {
-    // Classes have no values; tools ask all the same.
-    require_signature(call, "s");
-    const Message reply = new_return(call);
-    check(sd_bus_message_append(reply.get(), "a{sv}", 0U), "properties");
-    return send_reply(call, reply.get());
-  }
-  const char* interface = sd_bus_message_get_interface(call);
-  const bool own = path == kRootPath && (interface == nullptr || interface == std::string_view(kServerInterface));
-  const std::string_view member = sd_bus_message_get_member(call);
-  if (own && member == "Create") return create(call);
-  if (own && member == "Classes") return list_classes(call);
-  if (own && member == "OpenSession") return open_session(call);
-  throw Refusal{SD_BUS_ERROR_UNKNOWN_METHOD, "No method " + std::string(member) + " at " + path +
+  if (creates) return create(call);
+  if (opens) return open_session(call);
+  if (own && target.member == "Classes") return list_classes(call);
+  if (target.introspects()) return introspect(target);
+  if (target.uses_properties()) return use_properties(target);
+  throw Refusal{SD_BUS_ERROR_UNKNOWN_METHOD, "No method " + std::string(target.member) + " at " +
+                                                 std::string(target.path) +
                                                  "; objects are made by Vorlan.Server.Create at /Vorlan."};
 }
 
-void Front::introspect(sd_bus_message* call, const std::string& path) {
-  require_signature(call, "");
+const ClassInterface* Front::class_at(std::string_view path) {
+  if (path == kRootPath || path == "/") return nullptr;
+  const std::string below = std::string(kRootPath) + "/";
+  const Registry::Class* listed = path.starts_with(below) ? registry_.find(path.substr(below.size())) : nullptr;
+  if (listed == nullptr) throw Refusal{SD_BUS_ERROR_UNKNOWN_OBJECT, "There is no " + std::string(path) + "."};
+  return &interfaces_.of(listed->info());
+}
+
+void Front::introspect(const Target& target) {
+  require_signature(target.call, "");
   std::string interfaces;
   std::vector<std::string> children;
-  const std::string below = std::string(kRootPath) + "/";
-  if (path == kRootPath) {
-    interfaces = kServerXml;
+  if (const ClassInterface* shown = class_at(target.path)) {
+    interfaces = shown->xml();
+  } else if (target.path == kRootPath) {
+    interfaces = interface_xml(kServerInterface, std::string(kCreateXml).append(kServerMembers));
     for (const Registry::Class& listed : registry_.classes()) children.emplace_back(listed.name());
-  } else if (path == "/") {
-    children.emplace_back(kRootPath + 1);
   } else {
-    const Registry::Class* listed = path.starts_with(below) ? registry_.find(path.substr(below.size())) : nullptr;
-    if (listed == nullptr) throw Refusal{SD_BUS_ERROR_UNKNOWN_OBJECT, "There is no " + path + "."};
-    interfaces = interfaces_.of(listed->info()).xml();
+    children.emplace_back(kRootPath + 1);
   }
-  const Message reply = new_return(call);
-  check(sd_bus_message_append(reply.get(), "s", introspection(interfaces, children).c_str()), "introspection");
-  send_reply(call, reply.get());
+  reply_with(target.call, "s", introspection(interfaces, children).c_str());
+}
+
+void Front::use_properties(const Target& target) {
+  const PropertyCall wanted(target);
+  const ClassInterface* shown = class_at(target.path);
+  const std::string own = shown != nullptr ? shown->name() : target.path == kRootPath ? kServerInterface : "";
+  // A class has no values; tools ask all the same.
+  if (!wanted.all) wanted.refuse(false);
+  if (!wanted.interface.empty() && wanted.interface != own) wanted.refuse_interface();
+  reply_with(target.call, "a{sv}", 0U);
 }
 
 void Front::list_classes(sd_bus_message* call) {

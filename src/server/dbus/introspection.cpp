@@ -2,6 +2,8 @@
 
 #include <set>
 
+#include "server/dbus/names.hpp"
+
 namespace vorlan::dbus {
 
 namespace {
@@ -11,15 +13,13 @@ constexpr std::string_view kHead = R"(<!DOCTYPE node PUBLIC "-//freedesktop//DTD
 <node>
 )";
 
-constexpr std::string_view kStandardInterfaces = R"( <interface name="org.freedesktop.DBus.Introspectable">
-  <method name="Introspect"><arg type="s" name="data" direction="out"/></method>
- </interface>
- <interface name="org.freedesktop.DBus.Peer">
-  <method name="Ping"/>
+constexpr std::string_view kIntrospectableMembers =
+    R"(  <method name="Introspect"><arg type="s" name="data" direction="out"/></method>
+)";
+constexpr std::string_view kPeerMembers = R"(  <method name="Ping"/>
   <method name="GetMachineId"><arg type="s" name="id" direction="out"/></method>
- </interface>
- <interface name="org.freedesktop.DBus.Properties">
-  <method name="Get">
+)";
+constexpr std::string_view kPropertiesMembers = R"(  <method name="Get">
    <arg type="s" name="interface" direction="in"/><arg type="s" name="property" direction="in"/>
    <arg type="v" name="value" direction="out"/>
   </method>
@@ -30,7 +30,16 @@ constexpr std::string_view kStandardInterfaces = R"( <interface name="org.freede
    <arg type="s" name="interface" direction="in"/><arg type="s" name="property" direction="in"/>
    <arg type="v" name="value" direction="in"/>
   </method>
- </interface>
+)";
+constexpr std::string_view kObjectMembers = R"(  <method name="Invoke">
+   <arg type="s" name="member" direction="in"/><arg type="s" name="access" direction="in"/>
+   <arg type="av" name="arguments" direction="in"/>
+   <arg type="v" name="result" direction="out"/><arg type="av" name="arguments" direction="out"/>
+  </method>
+  <method name="Release"/>
+  <property name="Class" type="s" access="read">
+   <annotation name="org.freedesktop.DBus.Property.EmitsChangedSignal" value="const"/>
+  </property>
 )";
 
 }  // namespace
@@ -49,27 +58,22 @@ std::string xml_attribute(std::string_view text) {
   return result;
 }
 
+std::string interface_xml(std::string_view name, std::string_view members) {
+  std::string xml = " <interface name=\"";
+  return xml.append(name).append("\">\n").append(members).append(" </interface>\n");
+}
+
 std::string introspection(std::string_view interfaces, std::span<const std::string> children) {
   std::string xml(kHead);
-  xml.append(interfaces).append(kStandardInterfaces);
+  xml.append(interfaces);
+  xml += interface_xml(kIntrospectable, kIntrospectableMembers);
+  xml += interface_xml(kPeer, kPeerMembers);
+  xml += interface_xml(kProperties, kPropertiesMembers);
   for (const std::string& child : children) xml.append(" <node name=\"").append(child).append("\"/>\n");
   return xml + "</node>\n";
 }
 
-std::string_view object_interface_xml() noexcept {
-  return R"( <interface name="Vorlan.Object">
-  <method name="Invoke">
-   <arg type="s" name="member" direction="in"/><arg type="s" name="access" direction="in"/>
-   <arg type="av" name="arguments" direction="in"/>
-   <arg type="v" name="result" direction="out"/><arg type="av" name="arguments" direction="out"/>
-  </method>
-  <method name="Release"/>
-  <property name="Class" type="s" access="read">
-   <annotation name="org.freedesktop.DBus.Property.EmitsChangedSignal" value="const"/>
-  </property>
- </interface>
-)";
-}
+std::string object_interface_xml() { return interface_xml(kObjectInterface, kObjectMembers); }
 
 std::vector<std::string> children_of(std::string_view path, std::span<const std::string> paths) {
   const std::string start = std::string(path == "/" ? "" : path) + "/";

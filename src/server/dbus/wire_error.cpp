@@ -12,6 +12,8 @@ namespace vorlan::dbus {
 namespace {
 
 constexpr std::string_view kMinus = "Minus";
+/// Of source and description each: an error that quotes what it was given still fits a message.
+constexpr std::size_t kLongest = 16U << 20U;
 
 std::string error_name(std::int32_t number) {
   std::string digits = std::to_string(number);
@@ -34,9 +36,9 @@ std::optional<std::int32_t> error_number(std::string_view name) {
 
 Message new_error(sd_bus_message* call, const Error& error) {
   const std::string name = error_name(error.number());
-  std::string source = to_bus_text(error.source());
+  std::string source = to_bus_text(std::string_view(error.source()).substr(0, kLongest));
   std::replace(source.begin(), source.end(), '\n', ' ');
-  const std::string text = source + "\n" + to_bus_text(error.description());
+  const std::string text = source + "\n" + to_bus_text(std::string_view(error.description()).substr(0, kLongest));
   const sd_bus_error parts{name.c_str(), text.c_str(), 0};
   sd_bus_message* made = nullptr;
   check(sd_bus_message_new_method_error(call, &made, &parts), "error");

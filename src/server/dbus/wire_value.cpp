@@ -11,6 +11,9 @@ namespace {
 
 constexpr const char* kReading = "argument";
 constexpr const char* kWriting = "result";
+constexpr unsigned kMostArrays = 24;
+/// What a value takes at most beside its text: signature, length, and what fills up to eight octets.
+constexpr std::size_t kOctetsOfValue = 32;
 
 template <class T>
 T read_basic(sd_bus_message* message, char type) {
@@ -63,47 +66,6 @@ const char* variant_signature(const Value& value) noexcept {
   return signature_of(value.type());
 }
 
-void append_basic(sd_bus_message* message, char type, const void* value) {
-  check(sd_bus_message_append_basic(message, type, value), kWriting);
-}
-
-void append_text(sd_bus_message* message, const std::string& text, bool as_octets) {
-  if (as_octets) {
-    check(sd_bus_message_append_array(message, 'y', text.data(), text.size()), kWriting);
-    return;
-  }
-  if (!is_bus_text(text)) throw Error(ErrorNumber::TypeMismatch, {}, "not UTF-8; Vorlan.Object.Invoke gives octets");
-  append_basic(message, 's', text.c_str());
-}
-
-/// Appends a value as it is. `octets`: a text goes as octets.
-void append_as_is(sd_bus_message* message, const Value& value, bool octets, References& references) {
-  switch (value.type()) {
-    case ValueType::Empty:
-    case ValueType::Null: return append_basic(message, 'g', value.is_empty() ? "" : "v");
-    case ValueType::Boolean: {
-      const int flag = *value.as<bool>() ? 1 : 0;
-      return append_basic(message, 'b', &flag);
-    }
-    case ValueType::Integer: return append_basic(message, 'n', value.as<std::int16_t>());
-    case ValueType::Long: return append_basic(message, 'i', value.as<std::int32_t>());
-    case ValueType::Single: {
-      const double wide = static_cast<double>(*value.as<float>());
-      return append_basic(message, 'd', &wide);
-    }
-    case ValueType::Double: return append_basic(message, 'd', value.as<double>());
-    case ValueType::Date: check(sd_bus_message_append(message, "(d)", value.as<Date>()->days), kWriting); return;
-    case ValueType::String: return append_text(message, *value.as<std::string>(), octets);
-    case ValueType::Array: return append_values(message, *value.as<Value::Array>(), references);
-    case ValueType::Object: {
-      const Reference name = references.name_of(*value.as<Ref<Object>>());
-      check(sd_bus_message_append(message, "(so)", name.service.c_str(), name.path.c_str()), kWriting);
-      return;
-    }
-    case ValueType::Any: break;
-  }
-}
-
 }  // namespace
 
 const char* signature_of(ValueType type) noexcept {
@@ -124,7 +86,7 @@ const char* signature_of(ValueType type) noexcept {
   return "v";
 }
 
-Value read_value(sd_bus_message* message, References& references) {
+Value read_value(sd_bus_message* message, References& references, unsigned arrays) {
   char type = 0;
   const char* contents = nullptr;
   if (check(sd_bus_message_peek_type(message, &type, &contents), kReading) == 0) return {};
@@ -146,8 +108,10 @@ Value read_value(sd_bus_message* message, References& references) {
       if (std::string_view(contents) == "y") return read_octets(message);
       [[fallthrough]];
     case 'v': {
+      if (arrays == kMostArrays) throw Error(ErrorNumber::TypeMismatch, {}, "arrays nested too deep");
       check(sd_bus_message_enter_container(message, type, contents), kReading);
-      Value value = type == 'v' ? read_value(message, references) : Value(read_values(message, references));
+      Value value =
+          type == 'v' ? read_value(message, references, arrays) : Value(read_values(message, references, arrays + 1));
       check(sd_bus_message_exit_container(message), kReading);
       return value;
     }
@@ -155,28 +119,78 @@ Value read_value(sd_bus_message* message, References& references) {
   }
 }
 
-Value::Array read_values(sd_bus_message* message, References& references) {
+Value::Array read_values(sd_bus_message* message, References& references, unsigned arrays) {
   Value::Array values;
-  while (check(sd_bus_message_at_end(message, 0), kReading) == 0) values.push_back(read_value(message, references));
+  while (check(sd_bus_message_at_end(message, 0), kReading) == 0) {
+    values.push_back(read_value(message, references, arrays));
+  }
   return values;
 }
 
-void append_value(sd_bus_message* message, ValueType type, const Value& value, References& references) {
+void Writer::append(ValueType type, const Value& value) {
   if (*signature_of(type) == 'v') {
     const char* signature = variant_signature(value);
-    check(sd_bus_message_open_container(message, 'v', signature), kWriting);
-    append_as_is(message, value, std::string_view(signature) == "ay", references);
-    check(sd_bus_message_close_container(message), kWriting);
+    check(sd_bus_message_open_container(message_, 'v', signature), kWriting);
+    append_as_is(value, std::string_view(signature) == "ay");
+    check(sd_bus_message_close_container(message_), kWriting);
     return;
   }
-  if (value.is(type)) return append_as_is(message, value, false, references);
-  append_as_is(message, value.converted_to(type), false, references);
+  if (value.is(type)) return append_as_is(value, false);
+  append_as_is(value.converted_to(type), false);
 }
 
-void append_values(sd_bus_message* message, std::span<const Value> values, References& references) {
-  check(sd_bus_message_open_container(message, 'a', "v"), kWriting);
-  for (const Value& value : values) append_value(message, ValueType::Any, value, references);
-  check(sd_bus_message_close_container(message), kWriting);
+void Writer::append_all(std::span<const Value> values) {
+  check(sd_bus_message_open_container(message_, 'a', "v"), kWriting);
+  for (const Value& value : values) append(ValueType::Any, value);
+  check(sd_bus_message_close_container(message_), kWriting);
+}
+
+void Writer::take(std::size_t octets) {
+  if (octets > room_) throw Error(ErrorNumber::Overflow, {}, "more than a message of the bus carries");
+  room_ -= octets;
+}
+
+void Writer::append_basic(char type, const void* value) {
+  check(sd_bus_message_append_basic(message_, type, value), kWriting);
+}
+
+void Writer::append_text(const std::string& text, bool as_octets) {
+  take(text.size());
+  if (as_octets) {
+    check(sd_bus_message_append_array(message_, 'y', text.data(), text.size()), kWriting);
+    return;
+  }
+  if (!is_bus_text(text)) throw Error(ErrorNumber::TypeMismatch, {}, "not UTF-8; Vorlan.Object.Invoke gives octets");
+  append_basic('s', text.c_str());
+}
+
+void Writer::append_as_is(const Value& value, bool as_octets) {
+  take(kOctetsOfValue);
+  switch (value.type()) {
+    case ValueType::Empty:
+    case ValueType::Null: return append_basic('g', value.is_empty() ? "" : "v");
+    case ValueType::Boolean: {
+      const int flag = *value.as<bool>() ? 1 : 0;
+      return append_basic('b', &flag);
+    }
+    case ValueType::Integer: return append_basic('n', value.as<std::int16_t>());
+    case ValueType::Long: return append_basic('i', value.as<std::int32_t>());
+    case ValueType::Single: {
+      const double wide = static_cast<double>(*value.as<float>());
+      return append_basic('d', &wide);
+    }
+    case ValueType::Double: return append_basic('d', value.as<double>());
+    case ValueType::Date: check(sd_bus_message_append(message_, "(d)", value.as<Date>()->days), kWriting); return;
+    case ValueType::String: return append_text(*value.as<std::string>(), as_octets);
+    case ValueType::Array: return append_all(*value.as<Value::Array>());
+    case ValueType::Object: {
+      const Reference name = references_.name_of(*value.as<Ref<Object>>());
+      take(name.service.size() + name.path.size());
+      check(sd_bus_message_append(message_, "(so)", name.service.c_str(), name.path.c_str()), kWriting);
+      return;
+    }
+    case ValueType::Any: break;
+  }
 }
 
 }  // namespace vorlan::dbus

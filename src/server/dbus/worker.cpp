@@ -10,6 +10,8 @@ namespace vorlan::dbus {
 
 namespace {
 
+constexpr std::size_t kMostAdmitted = 256;
+
 /// Waiting is the one thing in the library that takes long, and the one place where other calls may run: anywhere else
 /// they could meet an object half changed.
 class PumpingClock final : public Clock {
@@ -69,18 +71,24 @@ Worker::Worker(const Registry& registry, Platform platform, Client client)
 bool Worker::admit(sd_bus_message* call) noexcept {
   const std::string_view sender = sd_bus_message_get_sender(call);
   if (sender == client_.name || sender == client_.front) return true;
-  if (shared_ && is_of_user(bus_.get(), sender.data(), owner_)) return true;
+  // The bus gives no name of a connection to another one later, so an answer of the bus holds for good.
+  if (admitted_.contains(sender)) return true;
+  if (shared_ && is_of_user(bus_.get(), sender.data(), owner_)) {
+    if (admitted_.size() == kMostAdmitted) admitted_.clear();
+    admitted_.emplace(sender);
+    return true;
+  }
   send_refusal(call, SD_BUS_ERROR_ACCESS_DENIED, "These objects belong to another client.");
   return false;
 }
 
 bool Worker::answer_at_once(sd_bus_message* call) noexcept {
-  return guarded(call, [&] { return dispatch_at_once(target_of(call)); });
+  return guarded(call, [&] { return dispatch_at_once(Target(call)); });
 }
 
 void Worker::answer(sd_bus_message* call) noexcept {
   guarded(call, [&] {
-    const Target target = target_of(call);
+    const Target target(call);
     if (!dispatch_at_once(target)) dispatch(target);
     return true;
   });

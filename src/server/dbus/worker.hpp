@@ -1,12 +1,16 @@
 // A worker: the process that holds one client's objects and answers the client's calls.
 #pragma once
 
+#include <set>
+#include <string>
+
 #include "automation/registry.hpp"
 #include "platform/platform.hpp"
 #include "server/dbus/class_interface.hpp"
 #include "server/dbus/client_object.hpp"
 #include "server/dbus/object_table.hpp"
 #include "server/dbus/pump.hpp"
+#include "server/dbus/target.hpp"
 
 namespace vorlan::dbus {
 
@@ -35,29 +39,15 @@ class Worker final : private Calls, private References {
   Reference name_of(const Ref<Object>& object) override;
   Ref<Object> object_of(const Reference& name) override;
 
-  /// Where a call goes.
-  struct Target {
-    sd_bus_message* call;
-    std::string_view path;
-    std::string_view interface;  ///< may be missing
-    std::string_view member;
-
-    [[nodiscard]] bool is_for(std::string_view wanted) const noexcept {
-      return interface.empty() || interface == wanted;
-    }
-    [[noreturn]] void refuse_method() const;
-  };
-
-  [[nodiscard]] static Target target_of(sd_bus_message* call);
   bool dispatch_at_once(const Target& target);
   void dispatch(const Target& target);
 
   void introspect(const Target& target);
   void call_root(const Target& target);
-  void call_object(const Target& target);
+  void use_root_properties(const Target& target);
   void use_properties(const Target& target, Object& object);
-  void get_all(const Target& target, Object& object);
-  void append_readable(sd_bus_message* reply, const MemberInfo& member, Object& object);
+  void get_all(const PropertyCall& wanted, const Target& target, Object& object);
+  void append_readable(sd_bus_message* reply, Writer& writer, const MemberInfo& member, Object& object);
   void call_method(const Target& target, Object& object, const BusMethod& method);
   void invoke(const Target& target, Object& object);
   [[nodiscard]] std::string class_name(const Object& object);
@@ -69,6 +59,7 @@ class Worker final : private Calls, private References {
   Bus bus_;
   std::string name_;
   unsigned owner_;
+  std::set<std::string, std::less<>> admitted_;  ///< callers of a shared worker that are the owner's
   Pump pump_;
   ClassInterfaces interfaces_;
   Clients clients_;

@@ -1,4 +1,5 @@
 // What a worker answers, call by call.
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -13,15 +14,12 @@ namespace vorlan::dbus {
 
 namespace {
 
-constexpr std::string_view kWorkerXml = R"( <interface name="Vorlan.Worker">
-  <method name="Create"><arg type="s" name="class" direction="in"/><arg type="s" name="service" direction="out"/>
-   <arg type="o" name="path" direction="out"/></method>
-  <method name="Cancel"><arg type="u" name="cancelled" direction="out"/></method>
-  <property name="Objects" type="u" access="read"/>
- </interface>
+constexpr std::string_view kWorkerMembers =
+    R"(  <method name="Cancel"><arg type="u" name="cancelled" direction="out"/></method>
+  <property name="Objects" type="u" access="read">
+   <annotation name="org.freedesktop.DBus.Property.EmitsChangedSignal" value="false"/>
+  </property>
 )";
-
-std::string_view text_or_none(const char* text) noexcept { return text != nullptr ? text : std::string_view(); }
 
 Access access_of(const std::string& name) {
   for (const Access access : {Access::Get, Access::Let, Access::Set, Access::Call}) {
@@ -30,26 +28,16 @@ Access access_of(const std::string& name) {
   throw Refusal{SD_BUS_ERROR_INVALID_ARGS, "\"" + name + "\" is none of Get, Let, Set and Call."};
 }
 
-void reply_with(sd_bus_message* call, const char* signature, auto... values) {
-  const Message reply = new_return(call);
-  if (*signature != '\0') check(sd_bus_message_append(reply.get(), signature, values...), "reply");
-  send_reply(call, reply.get());
+/// Whether a value is or holds an object, which would be given a path by being shown.
+bool has_object(const Value& value) noexcept {
+  if (const auto* values = value.as<Value::Array>()) return std::any_of(values->begin(), values->end(), has_object);
+  return value.is(ValueType::Object);
 }
 
 }  // namespace
 
-void Worker::Target::refuse_method() const {
-  throw Refusal{SD_BUS_ERROR_UNKNOWN_METHOD, "No method " + std::string(member) + " of " + std::string(interface) +
-                                                 " at " + std::string(path) + "."};
-}
-
-Worker::Target Worker::target_of(sd_bus_message* call) {
-  return {call, text_or_none(sd_bus_message_get_path(call)), text_or_none(sd_bus_message_get_interface(call)),
-          text_or_none(sd_bus_message_get_member(call))};
-}
-
 bool Worker::dispatch_at_once(const Target& target) {
-  if (target.interface == kIntrospectable && target.member == "Introspect") {
+  if (target.introspects()) {
     introspect(target);
     return true;
   }
@@ -66,7 +54,7 @@ void Worker::dispatch(const Target& target) {
   // Held: the call itself may release it.
   const Ref<Object> object(objects_.find(target.path));
   if (!object) throw Refusal{SD_BUS_ERROR_UNKNOWN_OBJECT, "There is no object " + std::string(target.path) + " here."};
-  if (target.interface == kProperties) return use_properties(target, *object);
+  if (target.uses_properties()) return use_properties(target, *object);
   if (const ClassInfo* info = object->class_info()) {
     const ClassInterface& interface = interfaces_.of(*info);
     const BusMethod* method = target.is_for(interface.name()) ? interface.method(target.member) : nullptr;
@@ -92,7 +80,7 @@ void Worker::introspect(const Target& target) {
     paths.emplace_back(kRootPath);
     children = children_of(target.path, paths);
     if (target.path == kRootPath) {
-      interfaces = kWorkerXml;
+      interfaces = interface_xml(kWorkerInterface, std::string(kCreateXml).append(kWorkerMembers));
     } else if (children.empty()) {
       throw Refusal{SD_BUS_ERROR_UNKNOWN_OBJECT, "There is no object " + std::string(target.path) + " here."};
     }
@@ -101,81 +89,74 @@ void Worker::introspect(const Target& target) {
 }
 
 void Worker::call_root(const Target& target) {
+  if (target.uses_properties()) return use_root_properties(target);
+  if (!target.is_for(kWorkerInterface) || target.member != "Create") target.refuse_method();
+  require_signature(target.call, "s");
+  const Reference name = name_of(registry_.create(read_text(target.call), platform_));
+  reply_with(target.call, "so", name.service.c_str(), name.path.c_str());
+}
+
+void Worker::use_root_properties(const Target& target) {
   const auto count = static_cast<std::uint32_t>(objects_.size());
-  if (target.is_for(kWorkerInterface) && target.member == "Create") {
-    require_signature(target.call, "s");
-    const Reference name = name_of(registry_.create(read_text(target.call), platform_));
-    return reply_with(target.call, "so", name.service.c_str(), name.path.c_str());
-  }
-  if (target.interface != kProperties) target.refuse_method();
-  if (target.member == "GetAll") {
-    require_signature(target.call, "s");
-    if (read_text(target.call) != kWorkerInterface) return reply_with(target.call, "a{sv}", 0U);
+  const PropertyCall wanted(target);
+  const bool own = wanted.interface.empty() || wanted.interface == kWorkerInterface;
+  if (wanted.all) {
+    if (!own) wanted.refuse_interface();
     return reply_with(target.call, "a{sv}", 1U, "Objects", "u", count);
   }
-  if (target.member != "Get") target.refuse_method();
-  require_signature(target.call, "ss");
-  const std::string interface = read_text(target.call);
-  if (interface != kWorkerInterface || read_text(target.call) != "Objects") {
-    throw Refusal{SD_BUS_ERROR_UNKNOWN_PROPERTY, "A worker has the property Objects."};
-  }
+  const bool known = own && wanted.name == "Objects";
+  if (!known || wanted.sets) wanted.refuse(known);
   reply_with(target.call, "v", "u", count);
 }
 
 void Worker::use_properties(const Target& target, Object& object) {
-  if (target.member == "GetAll") return get_all(target, object);
-  const bool sets = target.member == "Set";
-  if (!sets && target.member != "Get") target.refuse_method();
-  require_signature(target.call, sets ? "ssv" : "ss");
-  const char* wanted = nullptr;
-  const char* name = nullptr;
-  check(sd_bus_message_read(target.call, "ss", &wanted, &name), "property");
-  if (wanted == std::string_view(kObjectInterface) && name == std::string_view("Class") && !sets) {
-    return reply_with(target.call, "v", "s", class_name(object).c_str());
-  }
+  const PropertyCall wanted(target);
+  if (wanted.all) return get_all(wanted, target, object);
   const ClassInfo* info = object.class_info();
   const ClassInterface* interface = info != nullptr ? &interfaces_.of(*info) : nullptr;
-  const bool known = interface != nullptr && (*wanted == '\0' || interface->name() == wanted);
-  const MemberInfo* member = known ? interface->property(name) : nullptr;
+  const bool own = interface != nullptr && (wanted.interface.empty() || wanted.interface == interface->name());
+  const MemberInfo* member = own ? interface->property(wanted.name) : nullptr;
   if (member == nullptr) {
-    throw Refusal{SD_BUS_ERROR_UNKNOWN_PROPERTY, std::string("No property ") + name + " of " + wanted + "."};
+    const bool known = wanted.interface == kObjectInterface && wanted.name == "Class";
+    if (!known || wanted.sets) wanted.refuse(known);
+    return reply_with(target.call, "v", "s", class_name(object).c_str());
   }
   const Message reply = new_return(target.call);
-  if (sets) {
-    if (!member->lets && !member->sets)
-      throw Refusal{SD_BUS_ERROR_PROPERTY_READ_ONLY, std::string(name) + " is read only."};
+  if (wanted.sets) {
+    if (!member->lets && !member->sets) wanted.refuse(true);
     std::array value{read_value(target.call, *this)};
     object.invoke(member->name, assignment_of(*member, value[0]), value);
   } else {
-    const char* signature = signature_of(member->type);
     const Value value = object.invoke(member->name, Access::Get, {});
-    check(sd_bus_message_open_container(reply.get(), 'v', signature), "property");
-    append_value(reply.get(), member->type, value, *this);
+    check(sd_bus_message_open_container(reply.get(), 'v', signature_of(member->type)), "property");
+    Writer(reply.get(), *this).append(member->type, value);
     check(sd_bus_message_close_container(reply.get()), "property");
   }
   send_reply(target.call, reply.get());
 }
 
-void Worker::get_all(const Target& target, Object& object) {
-  require_signature(target.call, "s");
-  const std::string wanted = read_text(target.call);
+void Worker::get_all(const PropertyCall& wanted, const Target& target, Object& object) {
+  const std::string& interface = wanted.interface;
   const Message reply = new_return(target.call);
+  Writer writer(reply.get(), *this);
   const ClassInfo* info = object.class_info();
   check(sd_bus_message_open_container(reply.get(), 'a', "{sv}"), "properties");
-  if (wanted == kObjectInterface || wanted.empty()) {
+  if (interface == kObjectInterface || interface.empty()) {
     check(sd_bus_message_append(reply.get(), "{sv}", "Class", "s", class_name(object).c_str()), "properties");
   }
-  if (info != nullptr && (wanted.empty() || wanted == interfaces_.of(*info).name())) {
-    for (const MemberInfo* member : interfaces_.of(*info).properties()) append_readable(reply.get(), *member, object);
-  } else if (!wanted.empty() && wanted != kObjectInterface) {
-    throw Refusal{SD_BUS_ERROR_UNKNOWN_INTERFACE, "No interface " + wanted + " here."};
+  if (info != nullptr && (interface.empty() || interface == interfaces_.of(*info).name())) {
+    for (const MemberInfo* member : interfaces_.of(*info).properties()) {
+      append_readable(reply.get(), writer, *member, object);
+    }
+  } else if (!interface.empty() && interface != kObjectInterface) {
+    wanted.refuse_interface();
   }
   check(sd_bus_message_close_container(reply.get()), "properties");
   send_reply(target.call, reply.get());
 }
 
-void Worker::append_readable(sd_bus_message* reply, const MemberInfo& member, Object& object) {
-  if (!member.gets || member.get_changes) return;
+void Worker::append_readable(sd_bus_message* reply, Writer& writer, const MemberInfo& member, Object& object) {
+  if (!is_shown(member)) return;
   Value value;
   try {
     value = object.invoke(member.name, Access::Get, {});
@@ -183,18 +164,21 @@ void Worker::append_readable(sd_bus_message* reply, const MemberInfo& member, Ob
   } catch (const Error&) {
     return;  // One property that cannot be read now does not hide the others.
   }
-  if (const auto* text = value.as<std::string>(); text != nullptr && !is_bus_text(*text)) return;
+  // Nor does one that the bus cannot carry, or that would leave the others little room.
+  const auto* text = value.as<std::string>();
+  if (text != nullptr && (text->size() > writer.room() / 2 || !is_bus_text(*text))) return;
+  if (has_object(value)) return;
   check(sd_bus_message_open_container(reply, 'e', "sv"), "properties");
   check(sd_bus_message_append_basic(reply, 's', std::string(member.name).c_str()), "properties");
   check(sd_bus_message_open_container(reply, 'v', signature_of(member.type)), "properties");
-  append_value(reply, member.type, value, *this);
+  writer.append(member.type, value);
   check(sd_bus_message_close_container(reply), "properties");
   check(sd_bus_message_close_container(reply), "properties");
 }
 
 void Worker::call_method(const Target& target, Object& object, const BusMethod& method) {
   const char* given = sd_bus_message_get_signature(target.call, 1);
-  if (!method.accepts(text_or_none(given))) refuse_signature(target.call, method.signature);
+  if (!method.accepts(given != nullptr ? given : "")) refuse_signature(target.call, method.signature);
   std::vector<Value> arguments = read_values(target.call, *this);
   const MemberInfo& member = *method.member;
   const Access access = method.assigns       ? assignment_of(member, arguments.back())
@@ -202,9 +186,10 @@ void Worker::call_method(const Target& target, Object& object, const BusMethod& 
                                              : Access::Get;
   const Value result = object.invoke(member.name, access, arguments);
   const Message reply = new_return(target.call);
-  if (method.has_result) append_value(reply.get(), member.type, result, *this);
+  Writer writer(reply.get(), *this);
+  if (method.has_result) writer.append(member.type, result);
   for (const std::size_t i : method.by_reference) {
-    append_value(reply.get(), method.in[i].type, i < arguments.size() ? arguments[i] : Value(), *this);
+    writer.append(method.in[i].type, i < arguments.size() ? arguments[i] : Value());
   }
   send_reply(target.call, reply.get());
 }
@@ -217,8 +202,9 @@ void Worker::invoke(const Target& target, Object& object) {
   Value::Array arguments = read_values(target.call, *this);
   const Value result = object.invoke(member, access, arguments);
   const Message reply = new_return(target.call);
-  append_value(reply.get(), ValueType::Any, result, *this);
-  append_values(reply.get(), arguments, *this);
+  Writer writer(reply.get(), *this);
+  writer.append(ValueType::Any, result);
+  writer.append_all(arguments);
   send_reply(target.call, reply.get());
 }
 

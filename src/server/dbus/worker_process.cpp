@@ -55,7 +55,7 @@ WorkerProcess::WorkerProcess(const std::string& program, const std::string& clie
   if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) check(-errno, "pipe to a worker");
   ready_ = Descriptor(ends[0]);
   child_.process = start_worker(program, client, front, Descriptor(ends[1]));
-  end_ = watch_process(child_.process);
+  end_ = watch_process(child_.process).value();  // it is there until it is waited for
 }
 
 WorkerProcess::Child::~Child() {
@@ -66,9 +66,11 @@ WorkerProcess::Child::~Child() {
 
 void WorkerProcess::kill() noexcept { ::kill(child_.process, SIGKILL); }
 
-Descriptor watch_process(pid_t process) {
+std::optional<Descriptor> watch_process(pid_t process) {
   // By its number: the C library's own function lacks C linkage in glibc 2.36.
   const auto opened = static_cast<int>(syscall(SYS_pidfd_open, process, 0));
+  const bool none = opened < 0 && (errno == ESRCH || errno == EINVAL || errno == ENOENT);
+  if (none) return std::nullopt;
   return Descriptor(check(opened < 0 ? -errno : opened, "process"));
 }
 

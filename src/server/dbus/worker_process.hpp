@@ -3,6 +3,7 @@
 
 #include <sys/types.h>
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -54,8 +55,8 @@ class WorkerProcess {
   Descriptor end_;
 };
 
-/// Becomes readable when the process has ended.
-Descriptor watch_process(pid_t process);
+/// Becomes readable when the process has ended. Nothing if there is no such process; a thread is none.
+std::optional<Descriptor> watch_process(pid_t process);
 /// Whether a process of this number runs, and as which user.
 bool is_process_of(pid_t process, unsigned user) noexcept;
 
