@@ -3,17 +3,11 @@
 #include <rpc.h>
 #include <rpcdcep.h>
 
-#include "automation/error.hpp"
+#include "server/com/com_error.hpp"
 #include "server/com/foreign_object.hpp"
 #include "server/com/turn.hpp"
 
 namespace vorlan::com {
-
-namespace {
-
-constexpr std::int32_t kServerGone = 462;
-
-}  // namespace
 
 class Client::WatchfulClock final : public Clock {
  public:

@@ -24,7 +24,6 @@ constexpr std::pair<HRESULT, ErrorNumber> kRules[] = {
 };
 
 /// Shown where the peer is gone.
-constexpr std::int32_t kServerGone = 462;
 constexpr HRESULT kGone[] = {RPC_E_DISCONNECTED, RPC_E_SERVER_DIED, RPC_E_SERVER_DIED_DNE,
                              static_cast<HRESULT>(0x800706BA),   // RPC_S_SERVER_UNAVAILABLE
                              static_cast<HRESULT>(0x800706BE)};  // RPC_S_CALL_FAILED

@@ -6,6 +6,11 @@
 
 namespace vorlan::com {
 
+/// An object outside, or its process, is no more.
+inline constexpr std::int32_t kServerGone = 462;
+/// A Variant that is none of the library's types, or cannot become the one that is due.
+[[noreturn]] inline void mismatch() { throw Error(ErrorNumber::TypeMismatch); }
+
 /// How an error's number travels: 1 to 65535 under automation's own facility (0x800A0000 and the number), every other
 /// as it is. Client and server both keep to it, so a script sees the number that was raised.
 SCODE scode_of(std::int32_t number) noexcept;

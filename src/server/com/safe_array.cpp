@@ -10,8 +10,6 @@ namespace vorlan::com {
 
 namespace {
 
-[[noreturn]] void mismatch() { throw Error(ErrorNumber::TypeMismatch); }
-
 /// Octets of what an array may consist of; 0: it may not.
 UINT element_size(VARTYPE type) noexcept {
   switch (type) {

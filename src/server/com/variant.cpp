@@ -13,8 +13,6 @@ namespace vorlan::com {
 
 namespace {
 
-[[noreturn]] void mismatch() { throw Error(ErrorNumber::TypeMismatch); }
-
 /// Before 1899-12-30, COM's dates count the days backwards but the time of day forwards.
 Date date_of(DATE date) noexcept {
   if (date >= 0) return {date};
