@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 
 #include "automation/error.hpp"
@@ -41,38 +43,46 @@ std::optional<double> parse_radix(std::string_view digits, int base) noexcept {
   return static_cast<std::int32_t>(bits);
 }
 
-/// Days from 1970-01-01 to a civil date, and back (proleptic Gregorian calendar).
-struct CivilDate {
-  long year;
-  unsigned month;
-  unsigned day;
-};
-
-CivilDate civil_date(long days_since_1970) noexcept {
-  const long z = days_since_1970 + 719468;
-  const long era = (z >= 0 ? z : z - 146096) / 146097;
-  const auto day_of_era = static_cast<unsigned>(z - era * 146097);
-  const unsigned year_of_era = (day_of_era - day_of_era / 1460 + day_of_era / 36524 - day_of_era / 146096) / 365;
-  const unsigned day_of_year = day_of_era - (365 * year_of_era + year_of_era / 4 - year_of_era / 100);
-  const unsigned shifted_month = (5 * day_of_year + 2) / 153;
-  const unsigned month = shifted_month < 10 ? shifted_month + 3 : shifted_month - 9;
-  return {static_cast<long>(year_of_era) + era * 400 + (month <= 2 ? 1 : 0), month,
-          day_of_year - (153 * shifted_month + 2) / 5 + 1};
-}
-
-constexpr double kDaysTo1970 = 25569;
+constexpr std::chrono::sys_days kDayZero = std::chrono::December / 30 / 1899;
+constexpr double kFirstDay = -657434;      // 0100-01-01
+constexpr double kDayAfterLast = 2958466;  // 10000-01-01
 constexpr long kSecondsPerDay = 86400;
 
 std::string date_text(Date date) {
+  if (!(date.days >= kFirstDay && date.days < kDayAfterLast)) overflow();
   const double whole = std::floor(date.days);
-  auto second = std::lround((date.days - whole) * kSecondsPerDay);
-  const auto [year, month, day] = civil_date(static_cast<long>(whole - kDaysTo1970) + second / kSecondsPerDay);
+  long second = std::lround((date.days - whole) * kSecondsPerDay);
+  const std::chrono::year_month_day day =
+      kDayZero + std::chrono::days(static_cast<long>(whole) + second / kSecondsPerDay);
   second %= kSecondsPerDay;
-  const auto two_digits = [](long number) {
-    return std::string{static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
-  };
-  return std::to_string(year) + "-" + two_digits(month) + "-" + two_digits(day) + " " + two_digits(second / 3600) +
-         ":" + two_digits(second / 60 % 60) + ":" + two_digits(second % 60);
+  std::array<char, 40> text;
+  const int length = std::snprintf(text.data(), text.size(), "%d-%02u-%02u %02ld:%02ld:%02ld",
+                                   static_cast<int>(day.year()), static_cast<unsigned>(day.month()),
+                                   static_cast<unsigned>(day.day()), second / 3600, second / 60 % 60, second % 60);
+  return {text.data(), static_cast<std::size_t>(length)};
+}
+
+/// "2026-11-05", "2026-11-05 09:07" and what date_text writes.
+std::optional<Date> parse_date(std::string_view text) noexcept {
+  constexpr std::string_view kSeparators = "-- ::";
+  std::array<int, kSeparators.size() + 1> parts{};
+  std::size_t count = 0;
+  for (bool more = true; more; ++count) {
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), parts[count]);
+    if (fault != std::errc{} || parts[count] < 0) return std::nullopt;
+    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+    more = count < kSeparators.size() && text.starts_with(kSeparators[count]);
+    if (more) text.remove_prefix(1);
+  }
+  const auto [year, month, day, hour, minute, second] = parts;
+  const std::chrono::year_month_day date(std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
+                                         std::chrono::day(static_cast<unsigned>(day)));
+  // What does not fit a month's or a day's octet would be cut off.
+  const bool is_date = year >= 100 && year <= 9999 && month <= 12 && day <= 31 && date.ok();
+  const bool is_time = hour <= 23 && minute <= 59 && second <= 59;
+  if (!text.empty() || count == 4 || count < 3 || !is_date || !is_time) return std::nullopt;
+  const auto days = static_cast<double>((std::chrono::sys_days(date) - kDayZero).count());
+  return Date{days + (hour * 3600 + minute * 60 + second) / static_cast<double>(kSecondsPerDay)};
 }
 
 /// Turns "1.50000e+15" pieces into automation's form: digits without trailing zeros, exponent of two digits or more.
@@ -195,7 +205,13 @@ bool Value::to_boolean() const {
   return to_double() != 0;
 }
 
-Date Value::to_date() const { return is(ValueType::Date) ? *as<Date>() : Date{to_double()}; }
+Date Value::to_date() const {
+  if (const auto* exact = as<Date>()) return *exact;
+  if (const auto* text = as<std::string>()) {
+    if (const auto date = parse_date(trimmed(*text))) return *date;
+  }
+  return {to_double()};
+}
 
 std::string Value::to_text() const {
   switch (type()) {
