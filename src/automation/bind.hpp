@@ -115,10 +115,15 @@ class Argument {
 
   void write_back() noexcept {
     Value changed(held_);
-    try {
-      if (value_->is_numeric() && !value_->is_empty()) changed = changed.converted_to(value_->type());
-    } catch (const Error&) {  // NOLINT(bugprone-empty-catch)
-      // Does not fit the caller's own type: the caller gets the wider one.
+    if (value_->is_numeric() && !value_->is_empty()) {
+      for (const ValueType type : {value_->type(), ValueType::Long}) {
+        try {
+          changed = changed.converted_to(type);
+          break;
+        } catch (const Error&) {  // NOLINT(bugprone-empty-catch)
+          // Does not fit: the caller gets a wider type.
+        }
+      }
     }
     *value_ = std::move(changed);
   }
@@ -279,9 +284,11 @@ template <class T>
 class BoundObject : public ClassObject {
  public:
   static const ClassInfo& info() {
-    static const ClassInfo kInfo{T::texts(), describe(T::members())};
+    static const ClassInfo kInfo{T::texts(), describe(T::members()), {}, T::errors()};
     return kInfo;
   }
+  /// A class that lists errors has its own.
+  static std::vector<ErrorInfo> errors() { return {}; }
 
  protected:
   BoundObject() : ClassObject(info()) {}

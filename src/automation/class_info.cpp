@@ -38,8 +38,22 @@ std::size_t MemberInfo::required_parameters() const noexcept {
   return static_cast<std::size_t>(optional - parameters.begin());
 }
 
+std::string when_of(std::string_view member, std::string_view source, std::string_view when) {
+  std::string text(when);
+  if (!source.ends_with(member)) text.append(" (").append(member).append(")");
+  return text;
+}
+
 ErrorInfo error_info(const Error& error, std::string_view when) {
   return {error.source(), error.description(), std::string(when), error.number()};
+}
+
+void list_errors(std::vector<ErrorInfo>& list, std::string_view class_name, std::span<const ErrorRow> rows) {
+  for (const ErrorRow& row : rows) {
+    Error error = row.error();
+    if (!error.is(ErrorNumber::Failed)) error.set_source_if_empty(std::string(class_name).append(".<operation>"));
+    list.push_back(error_info(error, row.when));
+  }
 }
 
 std::string ClassInfo::defined_in() const {

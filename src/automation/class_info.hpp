@@ -13,6 +13,7 @@
 namespace vorlan {
 
 class Error;
+struct ErrorRow;
 
 struct ParameterInfo {
   std::string_view name;
@@ -56,6 +57,10 @@ struct ErrorInfo {
   std::int32_t number = 1;  ///< 1: raised on purpose; others are those of the automation rules
 };
 ErrorInfo error_info(const Error& error, std::string_view when);
+/// `when`, and the member in brackets where the error's source names another.
+std::string when_of(std::string_view member, std::string_view source, std::string_view when);
+/// Adds rows of a class, as `raise` raises them.
+void list_errors(std::vector<ErrorInfo>& list, std::string_view class_name, std::span<const ErrorRow> rows);
 
 /// What the registry knows of a class. Immutable once made.
 class ClassInfo {

@@ -46,4 +46,11 @@ void raise(std::string_view source, std::string_view description, std::string_vi
   throw Error(static_cast<std::int32_t>(ErrorNumber::Failed), source, description, help_file);
 }
 
+Error ErrorRow::error() const {
+  if (number != ErrorNumber::Failed) return Error(number, source, text);
+  return {static_cast<std::int32_t>(number), source, text};
+}
+
+void raise(const ErrorRow& row) { throw row.error(); }
+
 }  // namespace vorlan

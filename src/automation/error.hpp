@@ -54,4 +54,17 @@ class Error : public std::exception {
 /// Raises error number 1, the number of every error that a class raises on purpose.
 [[noreturn]] void raise(std::string_view source, std::string_view description, std::string_view help_file = {});
 
+/// An error as a row of a class's tables: raised and listed from there.
+struct ErrorRow {
+  std::string_view source;  ///< none in an error of the automation rules: the member that was called
+  std::string_view text;    ///< the description; of an error of the automation rules, the detail behind it
+  std::string_view when;    ///< for listings: "CreateMessage before Initialize"
+  ErrorNumber number = ErrorNumber::Failed;
+
+  /// The same error of another source.
+  [[nodiscard]] constexpr ErrorRow from(std::string_view other) const noexcept { return {other, text, when, number}; }
+  [[nodiscard]] Error error() const;
+};
+[[noreturn]] void raise(const ErrorRow& row);
+
 }  // namespace vorlan

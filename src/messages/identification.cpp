@@ -11,23 +11,18 @@ namespace vorlan {
 
 namespace {
 
-std::optional<double> type_number(std::string_view where) {
-  if (where.starts_with("0x") || where.starts_with("0X")) return parse_number("&H" + std::string(where.substr(2)));
-  return parse_number(where);
-}
-
 /// The protocols that a name, number or layer stands for.
 std::vector<Protocol> protocols_of(std::string_view where) {
   std::vector<Protocol> found;
-  const auto type = type_number(where);
+  const auto type = parse_protocol_type(where);
   for (const ProtocolInfo& info : protocols()) {
     if (equals_ignoring_case(info.name, where) || equals_ignoring_case(info.layer, where) ||
-        (type && info.type >= 0 && *type == info.type)) {
+        (type && *type == info.type)) {
       found.push_back(info.protocol);
     }
   }
   if (found.empty()) {
-    throw Error(ErrorNumber::InvalidCall, {}, "no protocol or layer is called " + std::string(where));
+    throw Error(ErrorNumber::InvalidCall, "decode", "no protocol or layer is called " + std::string(where));
   }
   return found;
 }

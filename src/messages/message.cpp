@@ -292,6 +292,11 @@ void Message::resize_lists(std::size_t count_field) {
     if (spec.on_resize == OnResize::GrowByIndex) count = std::min(count, list.size());
     if (spec.first_stays) count = std::max(count, std::size_t{1});
     list.resize(count, initial);
+    if (spec.width.kind != WidthRule::Kind::Fixed) {
+      // What is kept must have the width that holds now.
+      const auto outdated = [&](const std::string& element) { return element.size() != initial.size(); };
+      std::replace_if(list.begin(), list.end(), outdated, initial);
+    }
   }
   for (auto& [slot, list] : resized) lists_[slot] = std::move(list);
 }

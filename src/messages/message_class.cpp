@@ -113,8 +113,8 @@ void MessageClass::resolve() {
     std::size_t end = i + 1;
     while (end < fields_.size() && belongs(*fields_[end].spec)) ++end;
     groups_.push_back({static_cast<std::uint16_t>(i), static_cast<std::uint16_t>(end), repeated,
-                       end == i + 1 && is_stored_list(*fields_[i].spec), repeat.times, index_of(*spec_, repeat.count),
-                       index_of(*spec_, repeat.added_count)});
+                       end == i + 1 && is_stored_list(*fields_[i].spec), repeat.at_least_one, repeat.times,
+                       index_of(*spec_, repeat.count), index_of(*spec_, repeat.added_count)});
     i = end;
   }
 }

@@ -51,6 +51,7 @@ class MessageClass {
     std::uint16_t end;
     bool repeated;
     bool stored_list = false;  ///< one row, always there, its elements sent as they are stored
+    bool at_least_one = false;
     std::uint8_t times = 0;
     std::int16_t count = kNone;
     std::int16_t added_count = kNone;
@@ -115,6 +116,8 @@ enum class Fault : std::uint8_t { WrongLength, EncoderMode, BeyondCount, GetBeyo
 
 /// Behind the description of error 13, when a setter takes a text that is none.
 inline constexpr std::string_view kNoBitString = "a bit string wanted";
+/// Behind that of error 5, when an integer property is let.
+inline constexpr std::string_view kNoSwitch = "0 or 1";
 
 std::string source_of(const MessageSpec& message, std::string_view member);
 std::string source_of(const MessageSpec& message, const FieldSpec& field, Fault fault);

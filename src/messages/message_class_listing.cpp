@@ -86,6 +86,10 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
   if (message.builds()) {
     add(message.create_source.empty() ? source_of(message, "CreateMessage") : std::string(message.create_source),
         message.not_initialized, "CreateMessage before Initialize");
+    if (message.takes_sector) {
+      list.push_back(error_info(Error(ErrorNumber::ObjectNotSet, source_of(message, "Initialize")),
+                                "Initialize without a sector"));
+    }
     list.push_back(
         error_info(Error(ErrorNumber::ObjectNotSet, source_of(message, "CreateMessage")), "CreateMessage of Nothing"));
     list.push_back(error_info(Error(ErrorNumber::Overflow, source_of(message, "CreateMessage")),
@@ -100,7 +104,7 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
           message.string_not_set.empty() ? message.not_set : message.string_not_set,
           "get before a message is received");
     }
-    if (message.id.empty()) {
+    if (message.id.empty() && message.received_id_bits != 0) {
       add(message.id_source.empty() ? source_of(message, "PRstr_MessageID") : std::string(message.id_source),
           message.id_not_set.empty() ? message.not_set : message.id_not_set, "get before a message is received");
     }
@@ -120,10 +124,13 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
     if (of_index && !is_repeated(field)) return;
     const std::string_view text = text_of(message, field, kind.fault);
     std::string source = source_of(message, field, kind.fault);
+    const std::string when = when_of(field.name, source, kind.when);
     if (of_index && text.empty()) {
-      list.push_back(error_info(Error(ErrorNumber::SubscriptOutOfRange, source), kind.when));
+      list.push_back(error_info(Error(ErrorNumber::SubscriptOutOfRange, source), when));
+    } else if (kind.fault == Fault::BeyondCount && message.names_highest_index) {
+      add(std::move(source), std::string(text).append("<highest index>"), when);
     } else {
-      add(std::move(source), text, kind.when);
+      add(std::move(source), text, when);
     }
   };
   for (const FieldSpec& field : message.fields) {
@@ -132,20 +139,27 @@ std::vector<ErrorInfo> MessageClass::list_errors() const {
     if (message.builds() && settable && field.exposure != Exposure::GetOnly) {
       for (const Kind& kind : kOfSetters) add_fault(field, kind);
       any_set = true;
+      if (field.integer) {
+        const std::string source = std::string(message.name).append(".").append(field.name);
+        list.push_back(error_info(Error(ErrorNumber::InvalidCall, source, kNoSwitch), "let of another number"));
+      }
     }
     if (!field.too_few.empty()) {
       std::string_view source = message.check_source.empty() ? message.create_source : message.check_source;
       std::string text(field.too_few);
-      if (field.repeat.times == 0) text.append("...").append(message.too_few_end);
+      if (field.repeat.times == 0) text.append("<count>").append(message.too_few_end);
       add(source.empty() ? source_of(message, "CreateMessage") : std::string(source), text,
           "CreateMessage with " + std::string(bare_name(field.name)) + " not as its count says");
     }
-    for (const Kind& kind : kOfGetters) add_fault(field, kind);
+    if (field.exposure != Exposure::LetOnly) {
+      for (const Kind& kind : kOfGetters) add_fault(field, kind);
+    }
     if (!message.builds()) {
       add(source_of(message, field, Fault::NotSet), text_of(message, field, Fault::NotSet),
           "get before a message is received");
     }
   }
+  vorlan::list_errors(list, message.name, message.further_errors);
   if (any_set) {
     list.push_back(error_info(Error(ErrorNumber::TypeMismatch, source_of(message, "<property>"), kNoBitString),
                               "let of a text with control or non-ASCII characters"));

@@ -39,8 +39,8 @@ Value Message::invoke_field(std::size_t field, Access access, std::span<Value> a
   if (spec.integer) {
     if (!assigns) return static_cast<std::int16_t>(get_field(field) == "1" ? 1 : 0);
     const std::int16_t number = arguments[0].to_integer();
-    if (encoder_mode_) check_letting(spec);
-    if (number != 0 && number != 1) throw Error(ErrorNumber::InvalidCall, {}, "0 or 1");
+    check_letting(spec);
+    if (number != 0 && number != 1) throw Error(ErrorNumber::InvalidCall, {}, kNoSwitch);
     store(field, number == 1 ? "1" : "0");
     layout_known_ = false;
     return {};

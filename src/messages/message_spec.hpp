@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "automation/error.hpp"
 #include "automation/member_key.hpp"
 #include "automation/value.hpp"
 #include "codec/meaning.hpp"
@@ -72,6 +73,7 @@ struct Repetition {
   std::string_view count = {};
   std::string_view added_count = {};
   std::uint8_t times = 0;
+  bool at_least_one = false;  ///< sent once even if the count says 0
   /// Adjacent rows of the same number other than 0 are one record: all fields of the first repetition come before
   /// those of the second. 0 is a list of its own.
   std::uint8_t record = 0;
@@ -79,6 +81,7 @@ struct Repetition {
 constexpr Repetition list_of(std::string_view count, std::string_view added_count = {}) {
   return {.count = count, .added_count = added_count};
 }
+constexpr Repetition list_of_at_least_one(std::string_view count) { return {.count = count, .at_least_one = true}; }
 constexpr Repetition in_record(std::uint8_t record, std::string_view count, std::string_view added_count = {}) {
   return {.count = count, .added_count = added_count, .record = record};
 }
@@ -222,6 +225,8 @@ struct MessageSpec {
   std::string_view check_source = {};  ///< of CreateMessage's count checks; none: create_source
   std::string_view id_source = {};
   std::string_view string_source = {};
+
+  std::span<const ErrorRow> further_errors = {};  ///< that functions named by these rows raise
 
   [[nodiscard]] constexpr bool builds() const noexcept { return direction != Direction::Parsed; }
   [[nodiscard]] constexpr bool parses() const noexcept { return direction != Direction::Built; }

@@ -60,7 +60,11 @@ void walk(const MessageClass& message, Side& side) {
       count = group.times;
     } else if (group.repeated) {
       count = small_value(value(group.count, 0));
-      if (group.added_count != MessageClass::kNone) count += small_value(value(group.added_count, 0));
+      const bool added = group.added_count != MessageClass::kNone;
+      if (added && is_there(fields[static_cast<std::size_t>(group.added_count)], group.added_count, 0)) {
+        count += small_value(value(group.added_count, 0));
+      }
+      if (group.at_least_one && count == 0) count = 1;
     }
     if (side.begin(group, count)) continue;
     for (std::size_t index = 0; index < count && !(group.repeated && side.done()); ++index) {

@@ -102,7 +102,8 @@ std::vector<ErrorInfo> list_errors() {
       errors.push_back({source(spec.setter), std::string(spec.not_subtype2), "another physical layer subtype"});
     }
     if (spec.setter_text.empty()) continue;
-    errors.push_back({std::string(spec.setter_source), std::string(spec.setter_text), "another personality than 1"});
+    errors.push_back({std::string(spec.setter_source), std::string(spec.setter_text),
+                      when_of(spec.setter, spec.setter_source, "another personality than 1")});
     errors.push_back({source(spec.property), std::string(spec.property_text), "let in another personality than 1"});
   }
   return errors;

@@ -31,6 +31,11 @@ struct ProposalOutcome {
   std::string record = {};
 };
 
+/// When a proposal fails, for listings.
+inline constexpr std::string_view kWithoutAnswer = "the terminal does not answer within 5 s";
+inline constexpr std::string_view kWithOtherTransaction = "the terminal answers with another TransactionID";
+inline constexpr std::string_view kWithRefusal = "the terminal does not accept what is proposed";
+
 /// Waits 5 s for the ConfigurationResponse. What the test set's objects raise passes through.
 ProposalOutcome propose(Signalling& signalling, const AttributeProposal& proposal);
 

@@ -2,6 +2,7 @@
 #include "automation/error.hpp"
 #include "common/conversions.hpp"
 #include "sector/sector_channels.hpp"
+#include "sector/sector_errors.hpp"
 
 namespace vorlan {
 
@@ -55,7 +56,7 @@ void SB_Sector::configure_access_channel(std::int16_t subtype, const Ref<Object>
   const SectorChannels& names = channels_of(subtype);
   const TestSetAccess access = test_set();
   const std::string sector_id = setting("PRstr_SectorID").to_text();
-  if (sector_id.size() < kSectorIdBits) throw Error(ErrorNumber::TypeMismatch, {}, "PRstr_SectorID is too short");
+  if (sector_id.size() < kSectorIdBits) raise(sector_errors::kShortSectorId);
   const std::int32_t low_bits = bin_to_long(std::string_view(sector_id).substr(sector_id.size() - kSectorIdBits));
   const std::int16_t color_code = bin_to_dec(setting("PRstr_ColorCode").to_text());
 
@@ -74,31 +75,26 @@ void SB_Sector::configure_access_channel(std::int16_t subtype, const Ref<Object>
 }
 
 Ref<Object> SB_Sector::configure_channels(std::int16_t subtype, bool configure_access, const Value& argument,
-                                          std::string_view source, std::string_view outcome) {
-  or_raise(source, "Forward Channel " + std::string(outcome), [&] { configure_forward_channel(subtype, argument); });
+                                          const ErrorRow& forward_failed, const ErrorRow& access_failed) {
+  or_raise(forward_failed, [&] { configure_forward_channel(subtype, argument); });
   const Ref<Object> forward = held(channels_of(subtype).forward);
-  if (configure_access) {
-    or_raise(source, "Access Channel " + std::string(outcome), [&] { configure_access_channel(subtype, forward); });
-  }
+  if (configure_access) or_raise(access_failed, [&] { configure_access_channel(subtype, forward); });
   return forward;
 }
 
 Ref<Object> SB_Sector::ConfigureFwdAndAccChannel(bool configure_access, const Value& argument) {
   global_parameters();
   test_set();
-  return configure_channels(0, configure_access, argument, "ConfigureFwdAndAccChannel", "could not be configured.");
+  return configure_channels(0, configure_access, argument, sector_errors::kForwardFailed, sector_errors::kAccessFailed);
 }
 
 Ref<Object> SB_Sector::ReConfigureFwdAndAccChannel(bool configure_access, const Value& argument) {
-  constexpr std::string_view kOperation = "ReConfigureFwdAndAccChannel";
-  constexpr std::string_view kOutcome = "could not be reconfigured.";
   global_parameters();
   test_set();
   const std::int16_t subtype = current_subtype();
-  if (!is_later_subtype(subtype)) {
-    raise("SB_Sector." + std::string(kOperation), "Forward Channel " + std::string(kOutcome));
-  }
-  return configure_channels(subtype, configure_access, argument, kOperation, kOutcome);
+  if (!is_later_subtype(subtype)) raise(sector_errors::kLaterForwardFailed);
+  return configure_channels(subtype, configure_access, argument, sector_errors::kLaterForwardFailed,
+                            sector_errors::kLaterAccessFailed);
 }
 
 bool SB_Sector::ConfigureAccessChannel(const std::optional<Ref<Object>>& forward_channel) {
@@ -119,14 +115,12 @@ Ref<Object> SB_Sector::reverse_channel(std::int16_t subtype) const {
 }
 
 bool SB_Sector::AcquireReverseTrafficChannel() {
-  constexpr std::string_view kOperation = "AcquireReverseTrafficChannel";
-  constexpr std::string_view kFailed = "Reverse Traffic acquisition failed.";
   const TestSetAccess access = test_set();
-  const Ref<Object> channel = reverse_channel(tested_subtype().value_or(0));
-  const bool acquired = or_raise(kOperation, kFailed, [&] {
+  const Ref<Object> channel = reverse_channel(current_subtype());
+  const bool acquired = or_raise(sector_errors::kNotAcquired, [&] {
     return access.call(Role::AcquireReverse, channel, kAcquisitionTimeOut).to_boolean();
   });
-  if (!acquired) raise("SB_Sector." + std::string(kOperation), kFailed);
+  if (!acquired) raise(sector_errors::kNotAcquired);
   if (!access.call(Role::ReverseAcquired, channel).to_boolean()) return false;
   log("Reverse Traffic Channel acquired");
   return true;

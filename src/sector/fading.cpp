@@ -1,6 +1,6 @@
 // SB_Sector: the radio channel emulator.
-#include "automation/error.hpp"
 #include "sector/sector_channels.hpp"
+#include "sector/sector_errors.hpp"
 
 namespace vorlan {
 
@@ -16,7 +16,7 @@ bool is_given(const Value& value) noexcept { return !value.is_empty() && !value.
 void SB_Sector::EnableFading() {
   const TestSetAccess access = test_set();
   const Ref<Object> emulator = held(Held::RadioChannelEmulator);
-  or_raise("EnableFading", "Could not create objects for RadioChannelVelocity and RadioChannelPaths.", [&] {
+  or_raise(sector_errors::kNoFadingObjects, [&] {
     Ref<Object> velocity = access.object(Role::FadingVelocity, emulator);
     held(Held::RadioChannelPaths) = access.object(Role::FadingPaths, emulator);
     held(Held::RadioChannelVelocity) = std::move(velocity);
@@ -37,10 +37,8 @@ void SB_Sector::EnableFading() {
 }
 
 void SB_Sector::SetGainAndDelay(std::int16_t path, const Value& gain, const Value& delay) {
-  if (!setting("PRbln_FadingEnabled").to_boolean()) {
-    raise("SB_Sector.SetGainAndDelay", "This function will be called only when Fading is to be enabled");
-  }
-  if (path < 1 || static_cast<std::size_t>(path) > paths_.size()) throw Error(ErrorNumber::SubscriptOutOfRange);
+  if (!setting("PRbln_FadingEnabled").to_boolean()) raise(sector_errors::kFadingDisabled);
+  if (path < 1 || static_cast<std::size_t>(path) > paths_.size()) raise(sector_errors::kNoPath);
   const TestSetAccess access = test_set();
   const Ref<Object> object = paths_[static_cast<std::size_t>(path) - 1];
   // Both are converted first: one that is no number leaves the path as it is.
@@ -51,10 +49,7 @@ void SB_Sector::SetGainAndDelay(std::int16_t path, const Value& gain, const Valu
 }
 
 void SB_Sector::DestoyFadingObjects() {
-  if (!held(Held::RadioChannelEmulator)) {
-    // The colon is part of the source.
-    raise("SB_Sector.DestoyFadingObjects:", "Could not create objects for RadioChannelEmulator");
-  }
+  if (!held(Held::RadioChannelEmulator)) raise(sector_errors::kNoEmulator);
   if (is_path_count(path_count_)) paths_.clear();
   log("Destroyed: " + std::to_string(path_count_) + " Path/s configured for Sector: " + sector_name_);
   test_set().call(Role::ResetFading, held(Held::RadioChannelEmulator));

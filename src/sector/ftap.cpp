@@ -1,9 +1,9 @@
 // SB_Sector: the Forward Test Application Protocol (C.S0029) and its test packets.
 #include "attributes/complex/tas_attributes.hpp"
-#include "automation/error.hpp"
 #include "common/conversions.hpp"
 #include "messages/testapp/forward_test_application.hpp"
 #include "sector/sector.hpp"
+#include "sector/sector_errors.hpp"
 
 namespace vorlan {
 
@@ -20,19 +20,17 @@ std::string record(std::string_view value) {
 struct FtapAttribute {
   std::string_view property;
   std::int16_t highest;
-  std::string_view out_of_range;
+  ErrorRow out_of_range;
   std::string (*record)(std::string_view value);
 };
-// The texts end in a blank.
 constexpr std::array kAttributes{
-    FtapAttribute{"PRstr_TAS_DRCValue", 12, "DRCValue invalid in script parameters. Valid range 0 to 12. ",
+    FtapAttribute{"PRstr_TAS_DRCValue", 12, sector_errors::kDRCValueRange,
                   record<SB_TAS_AttrDRCValueFixedMode, "PRstr_DRCValue">},
-    FtapAttribute{"PRstr_TAS_DRCCover", 7, "DRCCover invalid in script parameters. Valid range 0 to 7. ",
+    FtapAttribute{"PRstr_TAS_DRCCover", 7, sector_errors::kDRCCoverRange,
                   record<SB_TAS_AttrDRCCoverFixedMode, "PRstr_DRCCover">},
-    FtapAttribute{"PRstr_TAS_ACKChannelBit", 1, "Invalid ACKChannelBit in script parameters. Valid values 0 and 1. ",
+    FtapAttribute{"PRstr_TAS_ACKChannelBit", 1, sector_errors::kACKChannelBitRange,
                   record<SB_TAS_AttrACKChannelBitFixedMode, "PRstr_ACKChannelBit">},
-    FtapAttribute{"PRstr_TAS_LoopBackPersistence", 1,
-                  "Invalid LoopBackPersistence in script parameters. Valid values 0 and 1. ",
+    FtapAttribute{"PRstr_TAS_LoopBackPersistence", 1, sector_errors::kLoopBackPersistenceRange,
                   record<SB_TAS_AttrLoopBackMode, "PRstr_LoopBackPersistence">},
 };
 
@@ -70,7 +68,7 @@ std::string SB_Sector::ftap_attributes(const std::array<bool, 4>& wanted) const 
     if (!wanted[i]) continue;
     const FtapAttribute& attribute = kAttributes[i];
     const std::int16_t value = bin_to_dec(setting(attribute.property).to_text());
-    if (value < 0 || value > attribute.highest) raise("SB_Sector.NegotiateFTAP", attribute.out_of_range);
+    if (value < 0 || value > attribute.highest) raise(attribute.out_of_range);
     records += attribute.record(long_to_bin(value, 8));
   }
   return records;
@@ -85,9 +83,7 @@ void SB_Sector::clear_ftap_stats(Signalling& signalling, const Ref<Object>& requ
                                             .answer_label = kCleared,
                                             .answer_code = kClearedCode,
                                             .time_out = kClearedTimeOut});
-  if (!cleared) {
-    raise(source, "AT did not clear its current statistics to 0 when requested through FTAPStatsClearRequest");
-  }
+  if (!cleared) raise(sector_errors::kNotCleared.from(source));
 }
 
 bool SB_Sector::NegotiateFTAP(bool drc_value, bool drc_cover, bool ack_channel_bit, bool loop_back_persistence) {
@@ -112,10 +108,7 @@ bool SB_Sector::NegotiateFTAP(bool drc_value, bool drc_cover, bool ack_channel_b
                                              .answer_label = kComplete,
                                              .answer_code = kCompleteCode,
                                              .time_out = kCompleteTimeOut});
-  if (!complete) {
-    // The source is odd on purpose.
-    raise("18_6_4.Negotiate_FTAP", "FTAPParameterComplete not received in response to FTAPParameterAssignment");
-  }
+  if (!complete) raise(sector_errors::kNotAssigned);
   clear_ftap_stats(signalling, clear_request, stream, "SB_Sector.NegotiateFTAP");
   for (const std::string_view label : {kCleared, kAssign, kComplete, kClear}) signalling.remove_message(label);
   return true;

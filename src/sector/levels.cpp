@@ -1,8 +1,8 @@
 // SB_Sector: steps of the forward channel's output level.
 #include <cmath>
 
-#include "automation/error.hpp"
 #include "sector/sector_channels.hpp"
+#include "sector/sector_errors.hpp"
 
 namespace vorlan {
 
@@ -33,10 +33,10 @@ bool SB_Sector::change_level(Step direction, float step_db, std::int16_t settle_
     const float level = access.call(Role::OutputLevel, channel).to_single();
     const float magnitude = std::fabs(level);
     if (direction == Step::Raise) {
-      if (magnitude < kHighestDb) raise("SB_Sector.RaiseLevel", "Power level cannot be raised above -50 dB");
+      if (magnitude < kHighestDb) raise(sector_errors::kHighestLevel);
       access.let(Role::OutputLevel, channel, level + step_db);
     } else {
-      if (magnitude > kLowestDb) raise("SB_Sector.LowerLevel", "Power level cannot be reduced below -120 dB");
+      if (magnitude > kLowestDb) raise(sector_errors::kLowestLevel);
       access.let(Role::OutputLevel, channel, level - step_db);
     }
   }

@@ -31,27 +31,51 @@ constexpr std::array kMembers{
                                                   "Proposes the configuration's data channel offsets and RPC step"),
 };
 
+constexpr ErrorRow kWrongArgument{"SB_PROT_RevTrafficChannel.Initialize",
+                                  "Invalid argument type or value not of expected type.",
+                                  "an argument is Nothing or no object"};
+
 constexpr std::string_view kRateSource = "SB_PROT_RevTrafficChannel.NegotiateRateParametersAttribute";
 constexpr std::string_view kPowerSource = "SB_PROT_RevTrafficChannel.NegotiatePowerParametersAttribute";
 
-// Both attributes share these two texts, which name the first. The 1 in "Protoco1" is a digit on purpose.
-constexpr std::string_view kNoAnswer =
-    "ConfigurationResponse not received from the AT for ConfigurationRequest on Default Reverse Traffic Channel MAC "
-    "Protoco1 proposing Rate Parameters Attribute";
-constexpr std::string_view kOtherTransaction =
-    "TransactionID field of ConfigurationResponse message is not same as that of ConfigurationRequest message , sent "
-    "with Rate Parameters Attribute";
+// Both attributes share these three texts, two of which name the first. The 1 in "Protoco1" is a digit on purpose.
+constexpr ErrorRow kNotInitialized{
+    kRateSource, "SB_PROT_RevTrafficChannel object not initialized. Please call <Initialize> method first.",
+    "call before Initialize"};
+constexpr ErrorRow kNoAnswer{kRateSource,
+                             "ConfigurationResponse not received from the AT for ConfigurationRequest on Default "
+                             "Reverse Traffic Channel MAC Protoco1 proposing Rate Parameters Attribute",
+                             kWithoutAnswer};
+// The blank at the source's end is on purpose.
+constexpr ErrorRow kOtherTransaction{"SB_PROT_RevTrafficChannel.NegotiateRateParametersAttribute ",
+                                     "TransactionID field of ConfigurationResponse message is not same as that of "
+                                     "ConfigurationRequest message , sent with Rate Parameters Attribute",
+                                     kWithOtherTransaction};
+constexpr ErrorRow kRateRejected{kRateSource, "AT rejected the use of new RateParameter Attribute sentfrom AN",
+                                 kWithRefusal};
+constexpr ErrorRow kPowerRejected{kPowerSource, "AT rejected the use of new PowerParameter Attribute sentfrom AN",
+                                  kWithRefusal};
+
+constexpr ErrorRow kErrors[] = {kWrongArgument,
+                                kNotInitialized,
+                                kNoAnswer,
+                                kOtherTransaction,
+                                kRateRejected,
+                                kNotInitialized.from(kPowerSource),
+                                kNoAnswer.from(kPowerSource),
+                                kOtherTransaction.from(kPowerSource),
+                                kPowerRejected};
 
 }  // namespace
 
 struct SB_PROT_RevTrafficChannel::Proposal {
-  std::string_view source;
-  std::string_view transaction_source;  ///< of the error about another TransactionID
   std::string_view request_label;
   std::string_view response_label;
   std::string attribute_id;
   std::string attribute;
-  std::string_view rejected;
+  ErrorRow unanswered;
+  ErrorRow other_transaction;
+  ErrorRow rejected;
 };
 
 ClassInfo::Texts SB_PROT_RevTrafficChannel::texts() noexcept {
@@ -59,13 +83,17 @@ ClassInfo::Texts SB_PROT_RevTrafficChannel::texts() noexcept {
           "10.8"};
 }
 std::span<const BoundMember> SB_PROT_RevTrafficChannel::members() noexcept { return kMembers; }
+std::vector<ErrorInfo> SB_PROT_RevTrafficChannel::errors() {
+  std::vector<ErrorInfo> list;
+  list_errors(list, texts().name, kErrors);
+  TestSetAccess::list_errors(list, texts().name);
+  return list;
+}
 
 void SB_PROT_RevTrafficChannel::Initialize(const Value& configuration, const Value& signalling, const Value& messages) {
   for (const Value* argument : {&configuration, &signalling, &messages}) {
     const auto* object = argument->as<Ref<Object>>();
-    if (object == nullptr || !*object) {
-      raise("SB_PROT_RevTrafficChannel.Initialize", "Invalid argument type or value not of expected type.");
-    }
+    if (object == nullptr || !*object) raise(kWrongArgument);
   }
   access_ = TestSetAccess::named_by(*configuration.to_object());
   configuration_ = configuration.to_object();
@@ -75,8 +103,7 @@ void SB_PROT_RevTrafficChannel::Initialize(const Value& configuration, const Val
 }
 
 void SB_PROT_RevTrafficChannel::check_initialized(std::string_view source) const {
-  if (initialized_) return;
-  raise(source, "SB_PROT_RevTrafficChannel object not initialized. Please call <Initialize> method first.");
+  if (!initialized_) raise(kNotInitialized.from(source));
 }
 
 std::int32_t SB_PROT_RevTrafficChannel::setting(std::string_view property) const {
@@ -118,26 +145,25 @@ std::string SB_PROT_RevTrafficChannel::power_parameters() const {
 bool SB_PROT_RevTrafficChannel::NegotiateRateParametersAttribute() {
   check_initialized(kRateSource);
   const SB_Mac_AttrRateParameters attribute;
-  return negotiate({.source = kRateSource,
-                    // The blank at its end is on purpose.
-                    .transaction_source = "SB_PROT_RevTrafficChannel.NegotiateRateParametersAttribute ",
-                    .request_label = "RPConfigRequestMessage",
+  return negotiate({.request_label = "RPConfigRequestMessage",
                     .response_label = "RPConfigResponseMessage",
                     .attribute_id = std::string(attribute.id()),
                     .attribute = attribute.build(rate_parameters()),
-                    .rejected = "AT rejected the use of new RateParameter Attribute sentfrom AN"});
+                    .unanswered = kNoAnswer,
+                    .other_transaction = kOtherTransaction,
+                    .rejected = kRateRejected});
 }
 
 bool SB_PROT_RevTrafficChannel::NegotiatePowerParametersAttribute() {
   check_initialized(kPowerSource);
   const SB_Mac_AttrRTCPowerParameters attribute;
-  return negotiate({.source = kPowerSource,
-                    .transaction_source = kPowerSource,
-                    .request_label = "PPConfigRequestMessage",
+  return negotiate({.request_label = "PPConfigRequestMessage",
                     .response_label = "PPConfigResponseMessage",
                     .attribute_id = std::string(attribute.id()),
                     .attribute = attribute.build(power_parameters()),
-                    .rejected = "AT rejected the use of new PowerParameter Attribute sentfrom AN"});
+                    .unanswered = kNoAnswer.from(kPowerSource),
+                    .other_transaction = kOtherTransaction.from(kPowerSource),
+                    .rejected = kPowerRejected});
 }
 
 bool SB_PROT_RevTrafficChannel::negotiate(const Proposal& proposal) {
@@ -151,9 +177,9 @@ bool SB_PROT_RevTrafficChannel::negotiate(const Proposal& proposal) {
                                             .record = proposal.attribute,
                                             .keeps = AttributeProposal::Keeps::RefusedAnswer});
   switch (outcome.answer) {
-    case Answer::None: raise(proposal.source, kNoAnswer);
-    case Answer::OtherTransaction: raise(proposal.transaction_source, kOtherTransaction);
-    case Answer::Refused: raise(proposal.source, proposal.rejected);
+    case Answer::None: raise(proposal.unanswered);
+    case Answer::OtherTransaction: raise(proposal.other_transaction);
+    case Answer::Refused: raise(proposal.rejected);
     case Answer::Accepted: break;
   }
   return true;

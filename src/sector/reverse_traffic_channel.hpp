@@ -15,6 +15,7 @@ class SB_PROT_RevTrafficChannel final : public BoundObject<SB_PROT_RevTrafficCha
 
   static ClassInfo::Texts texts() noexcept;
   static std::span<const BoundMember> members() noexcept;
+  static std::vector<ErrorInfo> errors();
 
   /// Three objects: SB_GlobalParameters, the test set's signalling object, its message collection. Error 1 for anything
   /// else, Nothing included.

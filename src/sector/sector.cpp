@@ -1,8 +1,8 @@
 #include "sector/sector.hpp"
 
-#include "automation/error.hpp"
 #include "common/conversions.hpp"
 #include "common/remembered_values.hpp"
+#include "sector/sector_errors.hpp"
 
 namespace vorlan {
 
@@ -15,10 +15,7 @@ constexpr std::size_t kAtiBits = 32;
 SB_Sector::SB_Sector(Platform& platform) noexcept : platform_(&platform) {}
 
 Ref<Object> SB_Sector::global_parameters() const {
-  if (!held(Held::GlobalParameters)) {
-    raise("SB_Sector.PRobj_GlobalParameters",
-          "Global Parameters object not set to the Sector. Please set <PRobj_GlobalParameters> property first.");
-  }
+  if (!held(Held::GlobalParameters)) raise(sector_errors::kNoParameters);
   return held(Held::GlobalParameters);
 }
 
@@ -28,7 +25,7 @@ void SB_Sector::set_global_parameters(const Ref<Object>& parameters) {
 }
 
 const Ref<Object>& SB_Sector::existing(Held channel) const {
-  if (!held(channel)) throw Error(ErrorNumber::ObjectNotSet, {}, "the channel has not been configured");
+  if (!held(channel)) raise(sector_errors::kNoChannel);
   return held(channel);
 }
 
@@ -36,8 +33,11 @@ Value SB_Sector::setting(std::string_view property) const { return global_parame
 
 TestSetAccess SB_Sector::test_set() {
   if (!test_set_) {
-    const Ref<Object>& parameters = held(Held::GlobalParameters);
-    test_set_ = parameters ? TestSetAccess::named_by(*parameters) : TestSetAccess();
+    const Ref<Object> parameters = held(Held::GlobalParameters);
+    TestSetAccess named = parameters ? TestSetAccess::named_by(*parameters) : TestSetAccess();
+    // A script's own configuration may have replaced itself while it was asked.
+    if (held(Held::GlobalParameters) != parameters) return named;
+    test_set_ = std::move(named);
   }
   return *test_set_;
 }

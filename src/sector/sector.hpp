@@ -23,6 +23,7 @@ class SB_Sector final : public BoundObject<SB_Sector> {
 
   static ClassInfo::Texts texts() noexcept;
   static std::span<const BoundMember> members() noexcept;
+  static std::vector<ErrorInfo> errors();
 
   /// The objects that a sector refers to. It owns none of them; empty at first.
   enum class Held : std::uint8_t {
@@ -158,11 +159,11 @@ class SB_Sector final : public BoundObject<SB_Sector> {
   void configure_forward_channel(std::int16_t subtype, const Value& argument);
   void configure_access_channel(std::int16_t subtype, const Ref<Object>& forward_channel);
   Ref<Object> configure_channels(std::int16_t subtype, bool configure_access, const Value& argument,
-                                 std::string_view source, std::string_view outcome);
-  /// The step's error, if any, goes to the debugger's output, and `text` is raised instead. A wait that the script has
-  /// cancelled stays what it is.
+                                 const ErrorRow& forward_failed, const ErrorRow& access_failed);
+  /// The step's error, if any, goes to the debugger's output, and the row's is raised instead. A wait that the script
+  /// has cancelled stays what it is.
   template <class F>
-  auto or_raise(std::string_view operation, std::string_view text, F&& step) const;
+  auto or_raise(const ErrorRow& failed, F&& step) const;
   /// Personality 1 is tested on the channels of the current subtype, any other on those of subtype 0. Nothing if the
   /// current subtype has no channels of its own.
   [[nodiscard]] std::optional<std::int16_t> tested_subtype() const;
@@ -206,15 +207,13 @@ class SB_Sector final : public BoundObject<SB_Sector> {
 };
 
 template <class F>
-auto SB_Sector::or_raise(std::string_view operation, std::string_view text, F&& step) const {
+auto SB_Sector::or_raise(const ErrorRow& failed, F&& step) const {
   try {
     return std::forward<F>(step)();
   } catch (const Error& error) {
-    constexpr std::int32_t kCancelled = 18;
     if (error.number() == kCancelled) throw;
-    const std::string source = "SB_Sector." + std::string(operation);
-    trace(source + " --- " + error.source() + ": " + error.description());
-    raise(source, text);
+    trace(std::string(failed.source) + " --- " + error.source() + ": " + error.description());
+    raise(failed);
   }
 }
 

@@ -1,5 +1,6 @@
 // SB_Sector as scripts see it.
 #include "sector/sector.hpp"
+#include "sector/sector_errors.hpp"
 
 namespace vorlan {
 
@@ -110,5 +111,12 @@ constexpr std::array kMembers{
 }  // namespace
 
 std::span<const BoundMember> SB_Sector::members() noexcept { return kMembers; }
+
+std::vector<ErrorInfo> SB_Sector::errors() {
+  std::vector<ErrorInfo> list;
+  list_errors(list, texts().name, sector_errors::kAll);
+  TestSetAccess::list_errors(list, texts().name);
+  return list;
+}
 
 }  // namespace vorlan

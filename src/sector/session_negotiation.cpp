@@ -1,10 +1,10 @@
 // SB_Sector: the session configuration that the access network opens and closes.
 #include "attributes/negotiation/configuration_messages.hpp"
-#include "automation/error.hpp"
 #include "common/conversions.hpp"
 #include "messages/session/session_configuration.hpp"
 #include "sector/configuration_answer.hpp"
 #include "sector/sector.hpp"
+#include "sector/sector_errors.hpp"
 
 namespace vorlan {
 
@@ -66,8 +66,7 @@ std::string complete_message(const Ref<Object>& test_set, std::int16_t transacti
 }  // namespace
 
 bool SB_Sector::StartSessionNegotiationFromAN() {
-  constexpr std::string_view kOperation = "StartSessionNegotiationFromAN";
-  const std::string start = or_raise(kOperation, "Configuration Start Message could not be created.", [&] {
+  const std::string start = or_raise(sector_errors::kNoStart, [&] {
     SB_Ses_MsgConfigurationStart message;
     message.initialize(held(Held::TestSet));
     return message.encode();
@@ -83,8 +82,7 @@ bool SB_Sector::StartSessionNegotiationFromAN() {
   for (const Value& filter : requests) signalling.remove_filter(filter);
   if (!answered) {
     signalling.remove_filter(complete);
-    // The source is another class's on purpose.
-    raise("SB_DefaultSession.DefSessionNegotiation", "Configuration Response Message could not be created.");
+    raise(sector_errors::kNoResponse);
   }
   await_configuration_complete(signalling, complete);
   return true;
@@ -138,27 +136,23 @@ void SB_Sector::await_configuration_complete(Signalling& signalling, const Value
   SB_Ses_MsgConfigurationComplete complete;
   complete.receive(bits);
   const std::string_view id = complete.get<"PRstr_TransactionID">();
-  if (id.size() != kOctet) {
-    raise("SB_Sector.StartSessionNegotiationFromAN",
-          "ConfigurationComplete Message not received from the Access Terminal.");
-  }
+  if (id.size() != kOctet) raise(sector_errors::kNoComplete);
   memory().remember_transaction_id(bin_to_dec(id));
 }
 
 bool SB_Sector::EndSessionNegotiationFromAN(std::int16_t& transaction_id) {
-  constexpr std::string_view kOperation = "EndSessionNegotiationFromAN";
   transaction_id = memory().last_transaction_id(0);
   const bool soft = global_parameters()->get("PRint_PersonalityCountAN").to_integer() != 1 &&
                     setting("PRint_ScriptPersonality").to_integer() != 0;
   const Ref<Object>& test_set = held(Held::TestSet);
   Signalling signalling = this->signalling();
   if (soft) {
-    const std::string bits = or_raise(kOperation, "Soft Configuration Complete Message could not be created.", [&] {
+    const std::string bits = or_raise(sector_errors::kNoSoftComplete, [&] {
       return complete_message<SB_Ses_MsgSoftConfigurationComplete>(test_set, transaction_id);
     });
     announce(signalling, "SoftConfigCompleteMessageAN", bits);
   } else {
-    const std::string bits = or_raise(kOperation, "Configuration Complete Message could not be created.", [&] {
+    const std::string bits = or_raise(sector_errors::kNoHardComplete, [&] {
       return complete_message<SB_Ses_MsgConfigurationComplete>(test_set, transaction_id);
     });
     announce(signalling, "ConfigCompleteMessageAN", bits);

@@ -1,7 +1,5 @@
 #include "sector/signalling.hpp"
 
-#include "automation/error.hpp"
-
 namespace vorlan {
 
 namespace {
@@ -25,7 +23,7 @@ std::string Signalling::fetch() {
   Value message = access_.call(Role::FetchMessage, signalling_);
   auto* bits = message.as<std::string>();
   if (bits == nullptr || bits->find_first_not_of("01") != std::string::npos) {
-    throw Error(ErrorNumber::TypeMismatch, {}, "a received message is no bit string");
+    raise(kNoReceivedBits);
   }
   return std::move(*bits);
 }

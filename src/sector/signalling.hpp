@@ -1,6 +1,7 @@
 // The test set's signalling object: sends messages, waits for messages, keeps both by label.
 #pragma once
 
+#include "automation/error.hpp"
 #include "sector/test_set_access.hpp"
 
 namespace vorlan {
@@ -36,6 +37,9 @@ struct MessageExchange {
   std::int16_t answer_code;  ///< 1 or 3: the low four bits of the answer's MessageID
   std::int16_t time_out;     ///< in units of 20 ms
 };
+
+inline constexpr ErrorRow kNoReceivedBits{
+    {}, "a received message is no bit string", "FetchMessage returns anything else", ErrorNumber::TypeMismatch};
 
 /// Lives for one operation, or as long as its owner: it gets the message collection once.
 class Signalling {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "automation/class_info.hpp"
 #include "automation/error.hpp"
 
 namespace vorlan {
@@ -10,6 +9,17 @@ namespace vorlan {
 namespace {
 
 constexpr std::string_view kSection = "TestSetMembers";
+
+// The texts begin with the role.
+constexpr ErrorRow kNoRole{kSection, "is no role of a test set's member.",
+                           "a line of section TestSetMembers for another role"};
+constexpr ErrorRow kFixedName{kSection, "has a name that cannot be changed.",
+                              "a line of section TestSetMembers for a fixed name"};
+constexpr ErrorRow kNoName{kSection, "has no name.", "a line of section TestSetMembers without a name"};
+
+std::string text_about(std::string_view role, const ErrorRow& row) {
+  return std::string("\"").append(role).append("\" in section TestSetMembers ").append(row.text);
+}
 
 /// As people look for what is missing.
 constexpr std::array<std::string_view, 14> kObjectNames{"PRobj_TestSet",
@@ -42,7 +52,7 @@ Value section_lines(Object& configuration) {
     const Ref<Object> reader = configuration.get("PRobj_IniReader").to_object();
     return deref(reader, "PRobj_IniReader").call("GetSectionStrings", kSection, file);
   } catch (const Error& error) {
-    if (error.is(ErrorNumber::FileAccess)) throw;
+    if (error.is(ErrorNumber::FileAccess) || error.number() == kCancelled) throw;
     return {};  // no section, no file, or a script's own configuration that reads none
   }
 }
@@ -58,20 +68,27 @@ TestSetAccess TestSetAccess::named_by(Object& configuration) {
   return access;
 }
 
+void TestSetAccess::list_errors(std::vector<ErrorInfo>& list, std::string_view class_name) {
+  for (const ErrorRow& row : {kNoRole, kFixedName, kNoName}) {
+    const std::string text = text_about("<role>", row);
+    vorlan::list_errors(list, class_name, std::array{ErrorRow{row.source, text, row.when}});
+  }
+  constexpr ErrorRow kMissing{{}, "<object>", "an object of the test set is Nothing", ErrorNumber::ObjectNotSet};
+  vorlan::list_errors(list, class_name, {&kMissing, 1});
+}
+
 void TestSetAccess::rename(std::string_view line) {
   const auto equals = line.find('=');
   const std::string_view role = trimmed(line.substr(0, equals));
   const std::string_view name =
       equals == std::string_view::npos ? std::string_view{} : trimmed(line.substr(equals + 1));
-  const auto refuse = [&](std::string_view why) {
-    raise(kSection, std::string("\"").append(role).append("\" in section TestSetMembers ").append(why));
-  };
+  const auto refuse = [&](const ErrorRow& row) { raise(row.source, text_about(role, row)); };
   const auto* const row = std::find_if(std::begin(kTestSetMembers), std::end(kTestSetMembers), [&](const auto& member) {
     return equals_ignoring_case(member.role_name, role);
   });
-  if (row == std::end(kTestSetMembers)) refuse("is no role of a test set's member.");
-  if (row->fixed) refuse("has a name that cannot be changed.");
-  if (name.empty()) refuse("has no name.");
+  if (row == std::end(kTestSetMembers)) refuse(kNoRole);
+  if (row->fixed) refuse(kFixedName);
+  if (name.empty()) refuse(kNoName);
   names_.emplace_back(row->role, name);
 }
 

@@ -6,9 +6,13 @@
 #include <utility>
 #include <vector>
 
+#include "automation/class_info.hpp"
 #include "sector/test_set_members.hpp"
 
 namespace vorlan {
+
+/// The number of the error that a wait ends with when it is cancelled.
+inline constexpr std::int32_t kCancelled = 18;
 
 /// The names that the members have in this laboratory. What the test set raises passes through; a call on Nothing is
 /// error 91 and names the object that is missing.
@@ -19,6 +23,8 @@ class TestSetAccess {
   /// With the names of [TestSetMembers] in the configuration's parameter file; none if there is no such section or
   /// file. Error 75 for a file that cannot be read, 1 for a role that does not exist or whose name is fixed.
   static TestSetAccess named_by(Object& configuration);
+  /// Adds what its calls raise to the errors of a class that makes them.
+  static void list_errors(std::vector<ErrorInfo>& list, std::string_view class_name);
 
   [[nodiscard]] std::string_view name(Role role) const noexcept;
 

@@ -27,6 +27,32 @@ constexpr std::string_view kInitialize = "SB_PROT_DHKeyXChange.Initialize";
 constexpr std::string_view kExecute = "SB_PROT_DHKeyXChange.ExecuteDHKeyXChange";
 constexpr std::string_view kNegotiate = "SB_PROT_DHKeyXChange.NegotiateSKeyLength";
 
+constexpr ErrorRow kNotInitialized{
+    kExecute, "SB_PROT_DHKeyXChange Object is not initialized. Please call <Initialize> method of this object first.",
+    "call before Initialize"};
+
+// Of the exchange: up to KeyResponse, and behind it.
+constexpr ErrorRow kNoRequest{{}, "KeyRequest message could not be created.", "whatever fails in building it"};
+constexpr ErrorRow kNoResponse{
+    {}, "KeyResponse message could not be received.", "the terminal does not answer KeyRequest within 5 s"};
+constexpr ErrorRow kOtherResponse{
+    {},
+    "TransactionId field of KeyResponse message received is not same as the TransactionId field of KeyRequest message "
+    "sent.",
+    "the terminal's KeyResponse has another TransactionID"};
+constexpr ErrorRow kNoComplete{
+    {},
+    "ATKeyComplete message could not be received from the AT in response to the ANKeyComplete message.",
+    "the terminal does not answer ANKeyComplete in the time that it asked for, 10 s at least"};
+constexpr ErrorRow kOtherComplete{
+    {},
+    "TransactionID field of ATKeyComplete message is not same as that of ANKeyComplete message.",
+    "the terminal's ATKeyComplete has another TransactionID"};
+constexpr ErrorRow kNotVerified{
+    {}, "The Result field of ATKeyComplete message is not 1.", "the terminal has found the keys different"};
+
+ProposalTexts texts_about(std::string_view length) { return key_length_texts("SKeyLength", "SKey Length", length); }
+
 constexpr std::array kMembers{
     method<&P::Initialize>("Initialize", "signalling, security, keyLength, messages, configuration",
                            "Takes the test set's signalling and security objects, 768 or 1024, and the message "
@@ -49,6 +75,25 @@ ClassInfo::Texts SB_PROT_DHKeyXChange::texts() noexcept {
   return {kDHKeyXChange.name, kDHKeyXChange.summary, kDHKeyXChange.clause};
 }
 std::span<const BoundMember> SB_PROT_DHKeyXChange::members() noexcept { return kMembers; }
+
+void SB_PROT_DHKeyXChange::list_exchange_errors(std::vector<ErrorInfo>& list, const Sources& sources) {
+  for (const ErrorRow& row : {kNoRequest, kNoResponse, kOtherResponse}) {
+    list_errors(list, kDHKeyXChange.name, std::array{row.from(sources.request)});
+  }
+  for (const ErrorRow& row : {kNoComplete, kOtherComplete, kNotVerified}) {
+    list_errors(list, kDHKeyXChange.name, std::array{row.from(sources.complete)});
+  }
+}
+
+std::vector<ErrorInfo> SB_PROT_DHKeyXChange::errors() {
+  std::vector<ErrorInfo> own;
+  list_errors(own, kDHKeyXChange.name, std::array{kWrongArgument.from(kNegotiate)});
+  ProtocolNegotiation::list_uninitialized(own, kDHKeyXChange, kNegotiate);
+  list_errors(own, kNegotiate, texts_about("<length>"));
+  list_errors(own, kDHKeyXChange.name, std::array{kNotInitialized});
+  list_exchange_errors(own, {kExecute, kExecute});
+  return ProtocolNegotiation::errors(kDHKeyXChange, own);
+}
 
 bool SB_PROT_DHKeyXChange::Initialize(const Value& signalling, const Value& security, const Value& key_length,
                                       const Value& messages, const std::optional<Ref<Object>>& configuration) {
@@ -74,13 +119,10 @@ bool SB_PROT_DHKeyXChange::NegotiateSKeyLength(std::optional<std::int32_t> key_l
   if (!key_exchange::is_key_length(bits)) refuse_argument(kNegotiate);
   SB_Sec_AttrSessionKeyLength attribute;
   attribute.let<"PRstr_AttrValue">(bits == 768 ? "00000000" : "00000001");
-  const std::string length = std::to_string(bits);
   negotiate(*link, {.source = kNegotiate,
                     .protocol_type = protocol_types::kKeyExchange,
                     .attribute = attribute,
-                    .proposed = "ConfigurationRequest on Key Exchange Protocol proposing SKeyLength " + length,
-                    .mismatched = "is not same as that of ConfigurationRequest message, proposing SKeyLength " + length,
-                    .rejected = "AT rejected SKey Length " + length});
+                    .texts = texts_about(std::to_string(bits))});
   key_length_ = static_cast<std::int16_t>(bits);
   remember(*platform_->settings, Remembered::SKeyLength, bits);
   return true;
@@ -91,10 +133,7 @@ void SB_PROT_DHKeyXChange::ClearSessionStateInfo() {
 }
 
 bool SB_PROT_DHKeyXChange::ExecuteDHKeyXChange() {
-  if (!negotiation_.is_initialized()) {
-    raise(kExecute,
-          "SB_PROT_DHKeyXChange Object is not initialized. Please call <Initialize> method of this object first.");
-  }
+  if (!negotiation_.is_initialized()) raise(kNotInitialized);
   return run_exchange({kExecute, kExecute});
 }
 
@@ -129,7 +168,7 @@ Ref<Object> SB_PROT_DHKeyXChange::key_request(Exchange& exchange) const {
     }
   }
   platform_->debug->write_line(std::string(exchange.sources.request) + " --- " + failure);
-  raise(exchange.sources.request, "KeyRequest message could not be created.");
+  raise(kNoRequest.from(exchange.sources.request));
 }
 
 std::int32_t SB_PROT_DHKeyXChange::take_key_response(Exchange& exchange) {
@@ -137,9 +176,7 @@ std::int32_t SB_PROT_DHKeyXChange::take_key_response(Exchange& exchange) {
   response.receive(exchange.signalling.message(kResponseLabel));
   exchange.signalling.remove_message(kResponseLabel);
   if (response.get<"PRstr_TransactionId">() != exchange.transaction_id) {
-    raise(exchange.sources.request,
-          "TransactionId field of KeyResponse message received is not same as the TransactionId field of KeyRequest "
-          "message sent.");
+    raise(kOtherResponse.from(exchange.sources.request));
   }
   const std::int32_t time_out = bin_to_long(response.get<"PRstr_Timeout">());
   const Ref<Object> public_key = exchange.signalling.new_message_object();
@@ -168,12 +205,9 @@ void SB_PROT_DHKeyXChange::take_key_complete(Exchange& exchange) {
   SB_Sec_MsgATKeyComplete answer;
   answer.receive(exchange.signalling.message(kCompleteLabel));
   if (answer.get<"PRstr_TransactionId">() != exchange.transaction_id) {
-    raise(exchange.sources.complete,
-          "TransactionID field of ATKeyComplete message is not same as that of ANKeyComplete message.");
+    raise(kOtherComplete.from(exchange.sources.complete));
   }
-  if (answer.get<"PRstr_Result">() != "1") {
-    raise(exchange.sources.complete, "The Result field of ATKeyComplete message is not 1.");
-  }
+  if (answer.get<"PRstr_Result">() != "1") raise(kNotVerified.from(exchange.sources.complete));
 }
 
 bool SB_PROT_DHKeyXChange::run_exchange(const Sources& sources) {
@@ -188,7 +222,7 @@ bool SB_PROT_DHKeyXChange::run_exchange(const Sources& sources) {
                             .answer_label = kResponseLabel,
                             .answer_code = kKeyResponseCode,
                             .time_out = kKeyResponseTimeOut})) {
-    raise(sources.request, "KeyResponse message could not be received.");
+    raise(kNoResponse.from(sources.request));
   }
   const std::int32_t wait = std::max(take_key_response(exchange), kShortestWait);
   const Ref<Object> complete = an_key_complete(exchange);
@@ -200,8 +234,7 @@ bool SB_PROT_DHKeyXChange::run_exchange(const Sources& sources) {
                             .answer_label = kCompleteLabel,
                             .answer_code = kKeyCompleteCode,
                             .time_out = static_cast<std::int16_t>(wait * test_set::kTimeOutsPerSecond)})) {
-    raise(sources.complete,
-          "ATKeyComplete message could not be received from the AT in response to the ANKeyComplete message.");
+    raise(kNoComplete.from(sources.complete));
   }
   const auto took = platform_->clock->ticks() - sent;
   take_key_complete(exchange);

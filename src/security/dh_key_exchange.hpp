@@ -16,6 +16,7 @@ class SB_PROT_DHKeyXChange final : public BoundObject<SB_PROT_DHKeyXChange> {
 
   static ClassInfo::Texts texts() noexcept;
   static std::span<const BoundMember> members() noexcept;
+  static std::vector<ErrorInfo> errors();
 
   /// Three objects and a key length of 768 or 1024 bits; a configuration is asked for other names of the test set's
   /// members.
@@ -43,6 +44,7 @@ class SB_PROT_DHKeyXChange final : public BoundObject<SB_PROT_DHKeyXChange> {
     std::string_view complete;
   };
   bool run_exchange(const Sources& sources);
+  static void list_exchange_errors(std::vector<ErrorInfo>& list, const Sources& sources);
 
  private:
   struct Exchange;

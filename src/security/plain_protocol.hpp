@@ -16,6 +16,7 @@ class PlainProtocol final : public BoundObject<PlainProtocol<Protocol>> {
   static ClassInfo::Texts texts() noexcept { return {Protocol.name, Protocol.summary, Protocol.clause}; }
   /// In classes.cpp, for the protocols below: MinGW's linker takes a table that two files have for two tables.
   static std::span<const BoundMember> members() noexcept;
+  static std::vector<ErrorInfo> errors() { return ProtocolNegotiation::errors(Protocol); }
 
   /// Two objects; a configuration is asked for other names of the test set's members.
   bool Initialize(const Value& signalling, const Value& messages, const std::optional<Ref<Object>>& configuration) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "automation/error.hpp"
 #include "common/sector_identity.hpp"
 #include "messages/security/key_exchange.hpp"
 #include "security/plain_protocol.hpp"
@@ -16,6 +15,36 @@ constexpr std::string_view kSKeyLength = "PRint_SKeyLength";
 constexpr std::string_view kAuthKeyLength = "PRlng_AuthKeyLength";
 
 std::string member_of_security(std::string_view member) { return std::string("SB_Security.").append(member); }
+
+// The word is doubled on purpose.
+constexpr ErrorRow kNotInitialized{
+    {}, "SB_Security Object not not initialized. Please call <Initialize> method first.", "call before Initialise"};
+constexpr ErrorRow kWrongSessionKeyLength{
+    {},
+    "Invalid SessionKeyLength specified in Script parameters. Valid values are 768 or 1024.",
+    "another PRint_SKeyLength of the configuration"};
+constexpr ErrorRow kWrongAuthKeyLength{"SB_Security.ConfigureAuthentication",
+                                       "Invalid AuthenticationKeyLength specified",
+                                       "SHA-1, and a PRlng_AuthKeyLength that is not 0 to 65535"};
+constexpr ErrorRow kNoProtocol{"SB_Security.NegotiateProtocolSubtype", "no protocol has this type and subtype",
+                               "call without a label, of such a type and subtype", ErrorNumber::InvalidCall};
+constexpr ErrorRow kNotConfigured{"SB_Security.SecurityNegotiations",
+                                  "Please configure the security negotiations to be carried out by calling <configure>",
+                                  "call before any Configure operation"};
+
+constexpr SB_PROT_DHKeyXChange::Sources kExchangeSources{"SB_Security.RunDiffie_HellManKeyXChange",
+                                                         "SB_Security.SendANKeyComplReceiveATKeyCompl"};
+
+SubtypeNames names_by(std::string_view protocol) { return {protocol, protocol, protocol, ", subtype "}; }
+
+std::string property_of(const SecurityProtocol& protocol) {
+  constexpr std::string_view kPrefix = "SB_";
+  return member_of_security(std::string("PRobj_").append(protocol.name.substr(kPrefix.size())));
+}
+std::string unavailable_text(const SecurityProtocol& protocol) {
+  return "Object not available yet. Please call " + member_of_security(security_family(protocol.family).operation) +
+         " prior to calling this property";
+}
 
 }  // namespace
 
@@ -45,7 +74,7 @@ Ref<Object> SB_Security::make_dh(const SB_Security& security, std::int32_t key_l
   return object;
 }
 
-const SB_Security::Choice* SB_Security::find_choice(SecurityFamilyId family, std::int32_t subtype) noexcept {
+std::span<const SB_Security::Choice> SB_Security::choices() noexcept {
   static constexpr std::array kChoices{
       Choice{&kDefaultSecurity, &make_plain<kDefaultSecurity>},
       Choice{&kGenericSecurity, &make_plain<kGenericSecurity>},
@@ -55,10 +84,43 @@ const SB_Security::Choice* SB_Security::find_choice(SecurityFamilyId family, std
       Choice{&kSHA1Authentication, &make_sha1, true},
       Choice{&kDefaultEncryption, &make_plain<kDefaultEncryption>},
   };
-  const auto* const found = std::find_if(kChoices.begin(), kChoices.end(), [&](const Choice& choice) {
-    return choice.protocol->family == family && choice.protocol->subtype == subtype;
-  });
-  return found == kChoices.end() ? nullptr : found;
+  return kChoices;
+}
+
+const SB_Security::Choice* SB_Security::find_choice(SecurityFamilyId family, std::int32_t subtype) noexcept {
+  for (const Choice& choice : choices()) {
+    if (choice.protocol->family == family && choice.protocol->subtype == subtype) return &choice;
+  }
+  return nullptr;
+}
+
+std::vector<ErrorInfo> SB_Security::errors() {
+  constexpr std::string_view kClass = "SB_Security";
+  const std::string initialise = member_of_security("Initialise");
+  const std::string negotiate = member_of_security("NegotiateProtocolSubtype");
+  std::vector<ErrorInfo> list;
+  const auto add = [&](const ErrorRow& row) { list_errors(list, kClass, {&row, 1}); };
+  add(kWrongArgument.from(initialise));
+  add({initialise, {}, "a sector without a configuration", ErrorNumber::ObjectNotSet});
+  for (const SecurityFamily& family : kSecurityFamilies)
+    add(kNotInitialized.from(member_of_security(family.operation)));
+  for (const std::string_view retired :
+       {"Configure", "NegotiateProtocolSubtype", "SecurityNegotiations", "RunDiffie_HellManKeyXChange"}) {
+    add(kNotInitialized.from(member_of_security(retired)));
+  }
+  add(kWrongSessionKeyLength.from(member_of_security(security_family(SecurityFamilyId::KeyXChange).operation)));
+  add(kWrongSessionKeyLength.from(kExchangeSources.request));
+  add(kWrongAuthKeyLength);
+  for (const Choice& choice : choices()) {
+    add({property_of(*choice.protocol), unavailable_text(*choice.protocol), "get before it is configured"});
+  }
+  add(kNoProtocol);
+  add(kWrongSubtype.from(negotiate));
+  list_errors(list, negotiate, subtype_texts(names_by("<label> protocol"), "<subtype>"));
+  add(kNotConfigured);
+  SB_PROT_DHKeyXChange::list_exchange_errors(list, kExchangeSources);
+  TestSetAccess::list_errors(list, kClass);
+  return list;
 }
 
 bool SB_Security::Initialise(const Value& sector) {
@@ -86,8 +148,7 @@ bool SB_Security::Initialise(const Value& sector) {
 Value SB_Security::setting(std::string_view property) const { return configuration_->get(property, ""); }
 
 void SB_Security::check_initialized(std::string_view source) const {
-  // The word is doubled on purpose.
-  if (!link_) raise(source, "SB_Security Object not not initialized. Please call <Initialize> method first.");
+  if (!link_) raise(kNotInitialized.from(source));
 }
 
 void SB_Security::log(std::string_view line) const {
@@ -100,9 +161,7 @@ void SB_Security::log(std::string_view line) const {
 
 std::int32_t SB_Security::session_key_length(std::string_view source) const {
   const std::int16_t bits = setting(kSKeyLength).to_integer();
-  if (!key_exchange::is_key_length(bits)) {
-    raise(source, "Invalid SessionKeyLength specified in Script parameters. Valid values are 768 or 1024.");
-  }
+  if (!key_exchange::is_key_length(bits)) raise(kWrongSessionKeyLength.from(source));
   return bits;
 }
 
@@ -115,7 +174,7 @@ void SB_Security::configure(const SecurityFamily& family) {
   if (family.id == SecurityFamilyId::Authentication) {
     key_length = setting(kAuthKeyLength).to_long();
     if (subtype == kSHA1Authentication.subtype && !SB_PROT_SHA1Authentication::is_key_length(key_length)) {
-      raise(source, "Invalid AuthenticationKeyLength specified");
+      raise(kWrongAuthKeyLength);
     }
   }
   const auto text = [this](std::string_view property) { return setting(property).to_text(); };
@@ -146,12 +205,7 @@ void SB_Security::ClearSessionStateInfo() { reset_remembered_values(*platform_->
 
 Ref<Object> SB_Security::protocol(const SecurityProtocol& protocol) const {
   const Chosen& last = chosen(protocol.family);
-  if (last.protocol != &protocol) {
-    constexpr std::string_view kPrefix = "SB_";
-    raise(member_of_security(std::string("PRobj_").append(protocol.name.substr(kPrefix.size()))),
-          "Object not available yet. Please call " + member_of_security(security_family(protocol.family).operation) +
-              " prior to calling this property");
-  }
+  if (last.protocol != &protocol) raise(property_of(protocol), unavailable_text(protocol));
   return last.object;
 }
 
@@ -191,8 +245,7 @@ bool SB_Security::Configure() {
 void SB_Security::propose_subtype(std::int16_t protocol_type, std::int32_t subtype, std::string_view label) {
   const std::string name = std::string(label).append(" protocol");
   const auto link = link_;  // which stays, even if a script's own test set initialises anew meanwhile
-  negotiate_subtype(*link, "SB_Security.NegotiateProtocolSubtype", protocol_type, subtype,
-                    {name, name, name, ", subtype "});
+  negotiate_subtype(*link, "SB_Security.NegotiateProtocolSubtype", protocol_type, subtype, names_by(name));
 }
 
 bool SB_Security::NegotiateProtocolSubtype(std::int16_t protocol_type, std::int32_t subtype,
@@ -208,7 +261,7 @@ bool SB_Security::NegotiateProtocolSubtype(std::int16_t protocol_type, std::int3
       std::find_if(std::begin(kSecurityFamilies), std::end(kSecurityFamilies),
                    [&](const SecurityFamily& row) { return row.protocol_type == protocol_type; });
   const Choice* const choice = family == std::end(kSecurityFamilies) ? nullptr : find_choice(family->id, subtype);
-  if (choice == nullptr) throw Error(ErrorNumber::InvalidCall, kSource, "no protocol has this type and subtype");
+  if (choice == nullptr) raise(kNoProtocol);
   propose_subtype(protocol_type, subtype, choice->protocol->label);
   return true;
 }
@@ -217,9 +270,7 @@ bool SB_Security::SecurityNegotiations() {
   constexpr std::string_view kSource = "SB_Security.SecurityNegotiations";
   warn_retired("SecurityNegotiations");
   check_initialized(kSource);
-  if (!configured_) {
-    raise(kSource, "Please configure the security negotiations to be carried out by calling <configure>");
-  }
+  if (!configured_) raise(kNotConfigured);
   const auto all = chosen_;  // a script's own test set may configure again meanwhile
   for (const Chosen& one : all) {
     if (one.protocol == nullptr || one.protocol->family == SecurityFamilyId::Encryption) continue;
@@ -236,11 +287,10 @@ bool SB_Security::SecurityNegotiations() {
 }
 
 bool SB_Security::run_key_exchange() {
-  constexpr SB_PROT_DHKeyXChange::Sources kSources{"SB_Security.RunDiffie_HellManKeyXChange",
-                                                   "SB_Security.SendANKeyComplReceiveATKeyCompl"};
-  if (const auto configured = chosen<SB_PROT_DHKeyXChange>(kDHKeyXChange)) return configured->run_exchange(kSources);
-  const Ref<Object> once = make_dh(*this, session_key_length(kSources.request));
-  return static_cast<SB_PROT_DHKeyXChange&>(*once).run_exchange(kSources);
+  if (const auto configured = chosen<SB_PROT_DHKeyXChange>(kDHKeyXChange))
+    return configured->run_exchange(kExchangeSources);
+  const Ref<Object> once = make_dh(*this, session_key_length(kExchangeSources.request));
+  return static_cast<SB_PROT_DHKeyXChange&>(*once).run_exchange(kExchangeSources);
 }
 
 bool SB_Security::RunDiffie_HellManKeyXChange() {

@@ -19,6 +19,7 @@ class SB_Security final : public BoundObject<SB_Security> {
 
   static ClassInfo::Texts texts() noexcept;
   static std::span<const BoundMember> members() noexcept;
+  static std::vector<ErrorInfo> errors();
 
   /// Takes the sector's configuration, test report and signalling object, the latter's message collection and the test
   /// set's security object. With another signalling object than before, what was configured has to be configured anew.
@@ -61,6 +62,7 @@ class SB_Security final : public BoundObject<SB_Security> {
     Ref<Object> object;
   };
   struct Choice;
+  static std::span<const Choice> choices() noexcept;
   static const Choice* find_choice(SecurityFamilyId family, std::int32_t subtype) noexcept;
   template <const SecurityProtocol& Protocol>
   static Ref<Object> make_plain(const SB_Security& security, std::int32_t key_length);

@@ -18,6 +18,7 @@ class SB_PROT_SHA1Authentication final : public BoundObject<SB_PROT_SHA1Authenti
 
   static ClassInfo::Texts texts() noexcept;
   static std::span<const BoundMember> members() noexcept;
+  static std::vector<ErrorInfo> errors();
 
   /// Two objects and a key length in bits; a configuration is asked for other names of the test set's members.
   bool Initialize(const Value& signalling, const Value& key_length, const Value& messages,

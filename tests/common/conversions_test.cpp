@@ -86,7 +86,7 @@ TEST_F(Conversions, NumbersToBits) {
       {"CompliDecToBin", {-129, 8}, "01111111", {129, 8}},
       {"CompliDecToBin", {-256, 8}, {}, {256, 8}, width_error("256", "8")},
       {"CompliDecToBin", {5, 8}, "0000001", {-5, 7}},
-      {"CompliDecToBin", {std::int16_t{-32768}, 16}, "1" + std::string(15, '0'), {32768.0, 16}},
+      {"CompliDecToBin", {std::int16_t{-32768}, 16}, "1" + std::string(15, '0'), {32768, 16}},
       {"CompliDecToBin", {-1, 32}, {}, {1, 32}, kOverflow},
       {"DoubleToBin", {7.0, 3}, "111"},
       {"DoubleToBin", {8.0, 3}, ""},

@@ -48,13 +48,13 @@ TEST(LocationAssignment, TakesTheLocationFromTheConfiguration) {
   configuration->values["PRstr_SID"] = Value("0");
   EXPECT_EQ(message.get<"PRstr_LocationValue">(), "0" + bits_of("00 07 A5").insert(0, "0"));
   EXPECT_EQ(
-      raised_by([&] { static_cast<void>(message.encode()); }),
+      listed(message, raised_by([&] { static_cast<void>(message.encode()); })),
       (Raised{1, "SB_App_MsgLocationAssignment.CreateMessage", "The <LocationValue> field should be 40 bits long."}));
 
   for (const char* type : {"00000000", "00000010"}) {
     configuration->values["PRstr_LocationType"] = Value(type);
     EXPECT_EQ(message.encode(), std::string("0000010100000010") + type + "00000000");
-    EXPECT_EQ(raised_by([&] { message.let<"PRstr_PACKET_ZONE_ID">("00000001"); }),
+    EXPECT_EQ(listed(message, raised_by([&] { message.let<"PRstr_PACKET_ZONE_ID">("00000001"); })),
               (Raised{1, "SB_App_MsgLocationAssignment.PRstr_PACKET_ZONE_ID",
                       "This property cannot be set when <LocationType> is not 0x01"}));
   }

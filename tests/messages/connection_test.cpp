@@ -69,7 +69,7 @@ TEST(Redirect, FillsNewRecordsFromTheConfiguration) {
   // A configuration may hold a system type of any width.
   configuration->values["PRstr_SystemType"] = "0000000";
   message.let<"PRstr_NumChannel">("00000001");
-  EXPECT_EQ(raised_by([&] { sent_by(message); }),
+  EXPECT_EQ(listed(message, raised_by([&] { sent_by(message); })),
             (Raised{1, "SB_Con_MsgRedirect.CreateMessage", "Error: Channel record value should be 24 bits long."}));
   // A count that cannot be followed is not taken over.
   configuration->values.erase("PRint_ChannelNumber");
@@ -128,7 +128,7 @@ TEST(QuickConfig, WantsAsManyBitsAsTheCountSays) {
     SB_Con_MsgQuickConfig message;
     prepare(message);
     prepare_bits(message);
-    const Raised raised = raised_by([&] { sent_by(message); });
+    const Raised raised = listed(message, raised_by([&] { sent_by(message); }));
     EXPECT_EQ(raised.source, "SB_Con_QuickConfig.CreateMessage");
     return raised.description;
   };
@@ -197,7 +197,9 @@ TEST(ConnectionMessages, RaiseTheirOwnTextsForLists) {
     const Ref<Object> object = create(c.name, "SB_Con_Msg");
     auto& message = dynamic_cast<Message&>(*object);
     const std::string source = std::string("SB_Con_Msg") + c.name + "." + c.member;
-    const auto let = [&](std::int16_t index) { return raised_by([&] { object->let(c.member, index, ""); }); };
+    const auto let = [&](std::int16_t index) {
+      return listed(message, raised_by([&] { object->let(c.member, index, ""); }));
+    };
     object->let(c.count, std::string(message.accepted_width(message.row(c.count)) - 1, '0') + "1");
     EXPECT_EQ(let(1), (Raised{1, source, c.beyond}));
     EXPECT_EQ(let(-1), (Raised{1, source, c.beyond}));

@@ -34,7 +34,7 @@ void expect_texts(void (*use)(Object& object, const std::string& member), Star s
         text.replace(at, 1, star == Star::Field ? field : cls.substr(cls.find("Msg") + 3));
       }
       const Ref<Object> object = create(cls, "SB_");
-      EXPECT_EQ(raised_by([&] { use(*object, member); }), (Raised{1, source, text})) << place;
+      EXPECT_EQ(listed(*object, raised_by([&] { use(*object, member); })), (Raised{1, source, text})) << place;
     }
   }
 }

@@ -6,8 +6,8 @@
 #include "messages/connection/sector_parameters.hpp"
 #include "messages/connection/traffic_channel_assignment.hpp"
 #include "support/fake_sector.hpp"
+#include "support/listed.hpp"
 #include "support/octets.hpp"
-#include "support/raised.hpp"
 
 namespace vorlan::test {
 namespace {
@@ -121,18 +121,18 @@ TEST(TrafficChannelAssignment, KeepsMACIndexAndItsPartsConsistent) {
   EXPECT_NO_THROW(message.let<"PRstr_MACIndexLSBs">(0, "100101"));
   EXPECT_NO_THROW(message.let<"PRstr_MACIndexMSB">(0, "1"));
   EXPECT_EQ(message.get<"PRstr_MACIndexLSBs">(0), "100101");
-  EXPECT_EQ(raised_by([&] { message.let<"PRstr_MACIndexLSBs">(0, "000101"); }),
+  EXPECT_EQ(listed(message, raised_by([&] { message.let<"PRstr_MACIndexLSBs">(0, "000101"); })),
             (Raised{1, "SB_Con_MsgTrafficChannelAssigment.PRstr_MACIndexLSBs",
                     "Incorrect value supplied.Please make sure that any occurence of MACIndexLSBs is equal to the 6 "
                     "least significant bits of the corresponding occurence of MACIndex"}));
-  EXPECT_EQ(raised_by([&] { message.let<"PRstr_MACIndexMSB">(0, "0"); }),
+  EXPECT_EQ(listed(message, raised_by([&] { message.let<"PRstr_MACIndexMSB">(0, "0"); })),
             (Raised{1, "SB_Con_MsgTrafficChannelAssigment.PRstr_MACIndexMSB",
                     "Incorrect value supplied.Please make sure that any occurence of MACIndexMSB is equal to the most "
                     "significant bit of the corresponding occurence of MACIndex"}));
-  EXPECT_EQ(raised_by([&] { message.let<"PRstr_PilotPN">(1, "000000001"); }),
+  EXPECT_EQ(listed(message, raised_by([&] { message.let<"PRstr_PilotPN">(1, "000000001"); })),
             (Raised{1, "SB_Con_MsgTrafficChannelAssignment.PRstr_PilotPN",
                     "Out of range index. Please add elements with index 0 through 0"}));
-  EXPECT_EQ(raised_by([&] { static_cast<void>(message.get<"PRstr_DRCCover">(1)); }),
+  EXPECT_EQ(listed(message, raised_by([&] { static_cast<void>(message.get<"PRstr_DRCCover">(1)); })),
             (Raised{1, "SB_Con_MsgTrafficChannelAssigment.PRstr_DRCCover",
                     "Trying to access Array Index Value that is out of range."}));
 }
@@ -144,7 +144,7 @@ TEST(TrafficChannelAssignment, NamesTheArrayThatLacksElements) {
   message.initialize(fake_sector(configuration), {}, "");
   message.let<"PRstr_NumPilots">("0010");
   EXPECT_EQ(
-      raised_by([&] { static_cast<void>(message.encode()); }),
+      listed(message, raised_by([&] { static_cast<void>(message.encode()); })),
       (Raised{1, "Sb_Con_MsgTrafficChannelAssignment.CreateMessage", "PilotPN array should contain 2 elements."}));
 }
 
@@ -170,6 +170,7 @@ TEST(SectorParameters, SendsRel0BodyAndOnlyTheGroupsAskedFor) {
   message.let<"PRstr_NeighborChannelIncluded">(1, "1");
   message.let<"PRstr_NeighborSearchWindowSizeIncluded">("1");
   message.let<"PRstr_NeighborSearchWindowSize">(0, "0110");
+  message.let<"PRstr_ExtendedChannelCount">("00010");  // Not sent, and so no masks for them.
   message.let<"PRstr_AccessHashingMaskLength">("0010");
   message.let<"PRstr_AccessHashingChannelMaskIncluded">("1");
   message.let<"PRstr_AccessHashingChannelMask">(0, "101");
@@ -179,8 +180,10 @@ TEST(SectorParameters, SendsRel0BodyAndOnlyTheGroupsAskedFor) {
   std::string expected = bits({head, "00001", kOneChannel, neighbours, "0", "1", "0010", "0", "101"});
   expected.resize((expected.size() + 7) / 8 * 8, '0');
   EXPECT_EQ(message.encode(), expected);
+  message.let<"PRstr_AccessHashingMaskLength">("0001");
+  EXPECT_EQ(message.get<"PRstr_AccessHashingChannelMask">(0), "00") << "a mask of the width before";
 
-  EXPECT_EQ(raised_by([&] { message.let<"PRstr_AccessHashingChannelMask">(0, "11"); }),
+  EXPECT_EQ(raised_by([&] { message.let<"PRstr_AccessHashingChannelMask">(0, "1"); }),
             (Raised{1, "SB_Con_MsgSectorParameters.PRstr_AccessHashingChannelMask",
                     "Length of <AccessHashingChannelMask> field should be equal to the value (AccessHashingMaskLength "
                     "+ 1)"}));

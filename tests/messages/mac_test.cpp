@@ -47,7 +47,7 @@ TEST(AccessParameters, ChecksThePersistence) {
   const std::string source = "SB_Mac_MsgAccessparameters.PRstr_APersistence";
   const auto message = make<SB_MAC_MsgAccessParameters>();
   const auto let = [&](std::int16_t index, const char* bits) {
-    return raised_by([&] { message->Object::let("PRstr_APersistence", index, bits); });
+    return listed(*message, raised_by([&] { message->Object::let("PRstr_APersistence", index, bits); }));
   };
   EXPECT_EQ(let(4, "1"), (Raised{1, source, "Index is out of bounds"}));
   EXPECT_EQ(let(-1, "000000"), (Raised{1, source, "Index is out of bounds"}));

@@ -53,7 +53,7 @@ TEST(MultiFlowMessages, TravelInTheseOctets) {
       {"RevReservationOff",
        {{"PRstr_ReservationLabel", "10101010"}, {"PRstr_ReservationCount", "00000001"}},
        "1B 00 01 AA"},
-      {"RevReservationOff", {{"PRstr_ReservationLabel", "10101010"}}, "1B 00 00"},
+      {"RevReservationOff", {{"PRstr_ReservationLabel", "10101010"}}, "1B 00 00 AA"},
       {"StorageBLOBRequest", {}, "10"},
       {"StorageBLOBNotification",
        {{"PRstr_StorageBLOBType", "0001001000110100"},

@@ -45,7 +45,7 @@ TEST(SectorChannels, OnlySubtypes1And2AreReconfigured) {
   for (const int subtype : {0, 3, -1}) {
     SimulatedSector s;
     s.test_subtype(subtype);
-    EXPECT_EQ(raised_by([&] { s.sector->call("ReConfigureFwdAndAccChannel", true, Value()); }),
+    EXPECT_EQ(s.raised("ReConfigureFwdAndAccChannel", true, Value()),
               refused("ReConfigureFwdAndAccChannel", "Forward Channel could not be reconfigured."));
     EXPECT_FALSE(s.sector->call("ReConfigureAccessChannel", Value()).to_boolean());
     EXPECT_EQ(s.wire.calls, Calls{});
@@ -72,7 +72,7 @@ TEST(SectorChannels, LabelsComeFromTheNamesLastCharacter) {
     s.part("TestReport")->call("Clear");
   }
   s.sector->let("PRstr_SectorName", "SECTOR X");
-  EXPECT_EQ(raised_by([&] { s.sector->call("ConfigureFwdAndAccChannel", false, Value()); }),
+  EXPECT_EQ(s.raised("ConfigureFwdAndAccChannel", false, Value()),
             refused("ConfigureFwdAndAccChannel", "Forward Channel could not be configured."));
 }
 
@@ -83,7 +83,8 @@ TEST(SectorChannels, AReverseChannelThatIsNotAcquired) {
   EXPECT_FALSE(acquire());
   s.terminal->call("LeaveReverseChannel");
   s.terminal->let("AcquiresReverseChannel", false);
-  EXPECT_EQ(raised_by(acquire), refused("AcquireReverseTrafficChannel", "Reverse Traffic acquisition failed."));
+  EXPECT_EQ(s.raised("AcquireReverseTrafficChannel"),
+            refused("AcquireReverseTrafficChannel", "Reverse Traffic acquisition failed."));
   EXPECT_EQ(s.report(), "");
   // Whoever cancels the wait is told so, not that the acquisition failed.
   s.wire.take_calls();
@@ -120,7 +121,7 @@ TEST(SectorLevels, TheLevelBeforeTheStepDecides) {
     SimulatedSector s;
     s.sector->call("ConfigureFwdAndAccChannel", false, Value());
     s.forward_channel()->let("Level", c.level);
-    const Raised raised = raised_by([&] { s.sector->call(c.operation, 10.0F, i16(c.settle)); });
+    const Raised raised = s.raised(c.operation, 10.0F, i16(c.settle));
     EXPECT_EQ(s.forward_channel()->get("Level").to_single(), c.after);
     if (c.after == c.level) {
       EXPECT_EQ(raised, c.operation == std::string("RaiseLevel")
@@ -156,7 +157,7 @@ TEST(SectorFading, SetsPathsThatAreThere) {
   s.sector->call("EnableFading");
   s.wire.take_calls();
   const auto set = [&](int path, const Value& gain, const Value& delay) {
-    return raised_by([&] { s.sector->call("SetGainAndDelay", i16(path), gain, delay); });
+    return s.raised("SetGainAndDelay", i16(path), gain, delay);
   };
   EXPECT_EQ(set(2, -3.5, Null{}), Raised{});
   EXPECT_EQ(set(1, Value(), 2.25), Raised{});
@@ -179,7 +180,7 @@ TEST(SectorFading, SetsPathsThatAreThere) {
     EXPECT_EQ(s.wire.take_calls()[3], "AddText(Configured: " + std::to_string(count) + " path/s for Sector: SECTOR 0)");
   }
   s.sector->set("PRobj_RadioChannelEmulator", Ref<Object>());
-  EXPECT_EQ(raised_by([&] { s.sector->call("DestoyFadingObjects"); }),
+  EXPECT_EQ(s.raised("DestoyFadingObjects"),
             refused("DestoyFadingObjects:", "Could not create objects for RadioChannelEmulator"));
 }
 
@@ -198,8 +199,7 @@ TEST(SectorFtap, ValuesOutOfRangeFailBeforeAnythingIsSent) {
   for (const Case& c : cases) {
     SimulatedSector s;
     s.parameters->let(c.setting, c.value);
-    EXPECT_EQ(raised_by([&] { s.sector->call("NegotiateFTAP", true, true, true, true); }),
-              refused("NegotiateFTAP", c.text));
+    EXPECT_EQ(s.raised("NegotiateFTAP", true, true, true, true), refused("NegotiateFTAP", c.text));
     EXPECT_EQ(s.wire.take_calls("Send"), Calls{});
     EXPECT_TRUE(s.sector->call("NegotiateFTAP", false, false, false, false).to_boolean()) << "not among those sent";
   }
@@ -222,7 +222,7 @@ TEST(SectorFtap, CountsTransactionsAndLooksAtTheSwitch) {
   EXPECT_EQ(s.wire.calls, (Calls{"FTAPTestPktTxAutoOn", "FTAPTestPktTxAutoOn"})) << "automatic they are not";
   EXPECT_EQ(s.fake.debug->lines, (Calls{"FTAPTestPktTxAutoOn point 0", "FTAPTestPktTxAutoOn point 3"}));
   s.terminal->call("StaySilent");
-  EXPECT_EQ(raised_by([&] { s.sector->call("SendFTAPClearStats"); }),
+  EXPECT_EQ(s.raised("SendFTAPClearStats"),
             refused("SendFTAPClearStats",
                     "AT did not clear its current statistics to 0 when requested through FTAPStatsClearRequest"));
 }

@@ -40,7 +40,7 @@ TEST(ReverseTrafficChannel, ProposesAnAttribute) {
   for (const Proposed& p : kProposed) {
     ReverseFixture f;
     const std::string source = "SB_PROT_RevTrafficChannel." + p.operation();
-    const auto negotiate = [&] { f.protocol->call(p.operation()); };
+    const auto negotiate = [&] { return listed(*f.protocol, raised_by([&] { f.protocol->call(p.operation()); })); };
     const std::string request = p.label() + "questMessage";
     const std::string response = p.label() + "sponseMessage";
     f.wire.take_calls();
@@ -61,10 +61,10 @@ TEST(ReverseTrafficChannel, ProposesAnAttribute) {
                                                       {"51 05 02 7F 01 02 " + p.attribute_id + " 01", Raised{}}};
     for (const auto& [answer, raised] : answers) {
       f.wire.answers["Item(" + response + ")"] = Ref<Object>(received(answer));
-      EXPECT_EQ(raised_by(negotiate), raised) << answer;
+      EXPECT_EQ(negotiate(), raised) << answer;
     }
     f.terminal->call("StaySilent", i16(4));
-    EXPECT_EQ(raised_by(negotiate),
+    EXPECT_EQ(negotiate(),
               (Raised{1, source,
                       "ConfigurationResponse not received from the AT for ConfigurationRequest on Default Reverse "
                       "Traffic Channel MAC Protoco1 proposing Rate Parameters Attribute"}));
@@ -95,12 +95,12 @@ TEST(ReverseTrafficChannel, NeedsItsObjects) {
       std::array<Value, 3> arguments = f.arguments;
       arguments[i] = bad;
       EXPECT_EQ(
-          raised_by([&] { fresh->invoke("Initialize", Access::Call, arguments); }),
+          listed(*fresh, raised_by([&] { fresh->invoke("Initialize", Access::Call, arguments); })),
           (Raised{1, "SB_PROT_RevTrafficChannel.Initialize", "Invalid argument type or value not of expected type."}));
     }
   }
   for (const Proposed& p : kProposed) {
-    EXPECT_EQ(raised_by([&] { fresh->call(p.operation()); }),
+    EXPECT_EQ(listed(*fresh, raised_by([&] { fresh->call(p.operation()); })),
               (Raised{1, "SB_PROT_RevTrafficChannel." + p.operation(),
                       "SB_PROT_RevTrafficChannel object not initialized. Please call <Initialize> method first."}));
   }

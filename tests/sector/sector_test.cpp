@@ -75,7 +75,7 @@ TEST(Sector, AnyFailingCallIsRaisedAndNothingIsUndone) {
         ReadySector s;
         s.wire.at_call = i;
         s.wire.trouble = trouble;
-        const Raised raised = raised_by([&] { operation.run(s); });
+        const Raised raised = listed(*s.sector, raised_by([&] { operation.run(s); }));
         EXPECT_TRUE(is_expected(raised, operation)) << testing::PrintToString(raised);
         EXPECT_EQ(s.wire.take_calls(), Calls(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(i) + 1));
         s.wire.trouble = Trouble::None;
@@ -102,7 +102,7 @@ TEST(Sector, AMissingObjectIsAnError) {
   }
   SimulatedSector s;
   s.sector->set("PRobj_EvSignalling", Ref<Object>());
-  EXPECT_EQ(raised_by([&] { s.sector->call("SendFTAPClearStats"); }),
+  EXPECT_EQ(s.raised("SendFTAPClearStats"),
             (Raised{91, "SB_Sector.SendFTAPClearStats",
                     "Object variable or With block variable not set: PRobj_EvSignalling"}));
   const Raised expected{1, "SB_Sector.PRobj_GlobalParameters",
@@ -110,8 +110,8 @@ TEST(Sector, AMissingObjectIsAnError) {
                         "first."};
   s.sector->set("PRobj_GlobalParameters", Ref<Object>());
   EXPECT_EQ(raised_by([&] { s.sector->get("PRobj_GlobalParameters"); }), expected);
-  EXPECT_EQ(raised_by([&] { s.sector->call("ConfigureFwdAndAccChannel", true, Value()); }), expected);
-  EXPECT_EQ(raised_by([&] { s.sector->call("AcquireReverseTrafficChannel"); }), expected);
+  EXPECT_EQ(s.raised("ConfigureFwdAndAccChannel", true, Value()), expected);
+  EXPECT_EQ(s.raised("LowerLevel", 1.0F, i16(1)), expected);
   EXPECT_EQ(s.wire.calls, Calls{});
 }
 
@@ -158,7 +158,7 @@ TEST(Sector, CallsMembersByTheLaboratorysNames) {
     const TemporaryFolder folder;
     s.parameters->let("PRstr_FileName", folder.write("sector.ini", section).string());
     s.sector->set("PRobj_GlobalParameters", s.parameters);
-    return raised_by([&] { s.sector->call("Enable"); });
+    return s.raised("Enable");
   };
   for (const Case& c : cases) EXPECT_EQ(enable_with(c.section), c.raised);
   EXPECT_EQ(enable_with("[TestSetMembers]\nno line of a section\n").number, 75);

@@ -38,7 +38,7 @@ TEST(SectorSession, AStreamRequestAloneIsNotAnswered) {
   SimulatedSector s;
   s.fake.settings->values[kLastId] = "9";
   s.terminal->let("ConfigurationOrder", "19");
-  EXPECT_EQ(raised_by([&] { s.sector->call("StartSessionNegotiationFromAN"); }),
+  EXPECT_EQ(s.raised("StartSessionNegotiationFromAN"),
             (Raised{1, "SB_Sector.StartSessionNegotiationFromAN",
                     "ConfigurationComplete Message not received from the Access Terminal."}));
   EXPECT_EQ(sent(s), Calls{"ConfigStartMessage|3|[01]"});
@@ -89,7 +89,7 @@ TEST(SectorSession, ClosesFromTheAccessNetworksSide) {
     EXPECT_EQ(s.signalling->get("Messages").to_object()->get("Count").to_integer(), 0);
     for (const char* remembered : {"256", "-1"}) {
       s.fake.settings->values[kLastId] = remembered;
-      EXPECT_EQ(raised_by([&] { s.sector->call("EndSessionNegotiationFromAN", i16(0)); }),
+      EXPECT_EQ(s.raised("EndSessionNegotiationFromAN", i16(0)),
                 (Raised{1, "SB_Sector.EndSessionNegotiationFromAN", c.text}));
     }
     EXPECT_EQ(s.wire.take_calls("Send"), Calls{});

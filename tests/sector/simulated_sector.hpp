@@ -6,6 +6,7 @@
 #include "examples/session.hpp"
 #include "sector/tap.hpp"
 #include "simulator/script.hpp"
+#include "support/listed.hpp"
 #include "support/print_value.hpp"
 
 namespace vorlan::test {
@@ -35,6 +36,11 @@ struct SimulatedSector : Script {
     fake.debug->lines.clear();
   }
 
+  /// What an operation of the sector raises.
+  template <class... Arguments>
+  Raised raised(std::string_view operation, const Arguments&... arguments) {
+    return listed(*sector, raised_by([&] { sector->call(operation, arguments...); }));
+  }
   Ref<Object> tapped(const Ref<Object>& object) { return make<Tap>(wire, object); }
   /// Personality 1 on channels of this subtype.
   void test_subtype(int subtype) {

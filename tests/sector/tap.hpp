@@ -10,6 +10,7 @@
 #include "automation/class_info.hpp"
 #include "automation/error.hpp"
 #include "common/bits.hpp"
+#include "common/octets.hpp"
 #include "sector/test_set_members.hpp"
 #include "simulator/message_object.hpp"
 
@@ -100,7 +101,7 @@ class Tap : public Object {
     if (!message) return text;
     simulator::Octets octets(octets_for(text.size()));
     pack_bits(text, octets.data());
-    return "[" + simulator::hex_text(octets) + "]";
+    return "[" + octets_text(octets) + "]";
   }
   static std::string text_of_call(const TestSetMember& row, Access access, std::span<const Value> arguments) {
     std::string texts;

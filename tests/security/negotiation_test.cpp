@@ -88,7 +88,7 @@ TEST(SecurityNegotiation, FailsWithItsOwnTexts) {
     const std::string source = std::string(c.name).append(".").append(c.operation);
     const bool subtype = c.operation == kSubtype;
     const auto expect = [&](const std::string& front, std::string_view text) {
-      EXPECT_EQ(raised_by([&] { object->call(c.operation); }),
+      EXPECT_EQ(listed(*object, raised_by([&] { object->call(c.operation); })),
                 (Raised{1, source, std::string(front).append(text).append(c.number)}));
       return f.wire.take_calls().back();
     };
@@ -112,7 +112,7 @@ TEST(SecurityNegotiation, FailsWithItsOwnTexts) {
     EXPECT_TRUE(expect(not_received, c.proposed).starts_with("SendAndWait"));
     EXPECT_TRUE(f.fake.settings->values.empty()) << "only what is accepted is remembered";
     const std::string owner(c.uninitialized_class.empty() ? c.name : c.uninitialized_class);
-    EXPECT_EQ(raised_by([&] { create(c.name)->call(c.operation); }),
+    EXPECT_EQ(listed(*object, raised_by([&] { create(c.name)->call(c.operation); })),
               (Raised{1, (subtype ? owner : std::string(c.name)) + "." + std::string(c.operation),
                       owner + " object not initialized. Please call <Initialize> method first."}));
   });
@@ -129,7 +129,8 @@ TEST(SecurityNegotiation, InitializeWantsObjectsAndLengths) {
         std::vector<Value> arguments = arguments_of(f, c.name);
         arguments[i] = bad;
         const Ref<Object> object = create(c.name);
-        EXPECT_EQ(raised_by([&] { object->invoke("Initialize", Access::Call, arguments); }), wrong) << c.name << i;
+        const auto initialize = [&] { object->invoke("Initialize", Access::Call, arguments); };
+        EXPECT_EQ(listed(*object, raised_by(initialize)), wrong) << c.name << i;
         EXPECT_EQ(error_number([&] { object->call(c.operation); }), 1) << "still not initialised";
       }
     }

@@ -15,7 +15,7 @@ struct ControllerFixture : SecurityFixture {
     wire.take_calls();
   }
   Raised raised(const char* operation) {
-    return raised_by([&] { security->call(operation); });
+    return listed(*security, raised_by([&] { security->call(operation); }));
   }
   /// The lines of the report since the last time.
   std::string take_report() {
@@ -81,8 +81,8 @@ TEST(Security, ConfiguresOneProtocolOfAFamily) {
       const Raised unavailable{1, "SB_Security." + property,
                                "Object not available yet. Please call SB_Security." +
                                    std::string(other.family.operation) + " prior to calling this property"};
-      EXPECT_EQ(raised_by([&] { EXPECT_TRUE(f.security->get(property).to_object()); }),
-                property == c.property ? Raised{} : unavailable);
+      const auto get = [&] { EXPECT_TRUE(f.security->get(property).to_object()); };
+      EXPECT_EQ(listed(*f.security, raised_by(get)), property == c.property ? Raised{} : unavailable);
     }
   }
 }
@@ -109,13 +109,13 @@ TEST(Security, NeedsASector) {
   ControllerFixture f;
   const Ref<Object> fresh = make<SB_Security>(f.fake.platform);
   for (const Value& bad : {Value(), Value("sector"), Value(Ref<Object>())}) {
-    EXPECT_EQ(raised_by([&] { fresh->call("Initialise", bad); }),
+    EXPECT_EQ(listed(*fresh, raised_by([&] { fresh->call("Initialise", bad); })),
               (Raised{1, "SB_Security.Initialise", "Invalid argument type or value not of expected type."}));
   }
   for (const char* operation :
        {"ConfigureSecurity", "ConfigureKeyXChange", "ConfigureAuthentication", "ConfigureEncryption", "Configure",
         "SecurityNegotiations", "RunDiffie_HellManKeyXChange"}) {
-    EXPECT_EQ(raised_by([&] { fresh->call(operation); }),
+    EXPECT_EQ(listed(*fresh, raised_by([&] { fresh->call(operation); })),
               (Raised{1, "SB_Security." + std::string(operation),
                       "SB_Security Object not not initialized. Please call <Initialize> method first."}));
   }

@@ -7,7 +7,7 @@
 
 #include "platform/platform.hpp"
 #include "server/classes.hpp"
-#include "support/raised.hpp"
+#include "support/listed.hpp"
 
 namespace vorlan::test {
 
@@ -23,7 +23,7 @@ inline void expect_text(std::string_view name, std::string_view prefix, std::str
                         const Raised& expected) {
   const Ref<Object> object = create(name, prefix);
   const std::string_view given = value == nullptr ? "" : value;
-  EXPECT_EQ(raised_by([&] {
+  EXPECT_EQ(listed(*object, raised_by([&] {
               if (value == nullptr) {
                 object->get(member);
               } else if (given == "()") {
@@ -31,7 +31,7 @@ inline void expect_text(std::string_view name, std::string_view prefix, std::str
               } else {
                 object->let(member, given);
               }
-            }),
+            })),
             expected)
       << prefix << name << "." << member;
 }

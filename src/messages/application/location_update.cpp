@@ -36,9 +36,7 @@ void join_location(const BuildContext& context, BitBuffer& bits) {
     return;
   }
   const std::string value = location_value(context.message, 0);
-  if (value.size() != kValueBits) {
-    raise("SB_App_MsgLocationAssignment.CreateMessage", "The <LocationValue> field should be 40 bits long.");
-  }
+  if (value.size() != kValueBits) raise(kWrongLocationValue);
   bits += long_to_bin(static_cast<std::int32_t>(value.size() / 8), 8);
   bits += value;
 }
@@ -47,8 +45,7 @@ void already_joined(const BuildContext&, BitBuffer&) {}
 
 void check_packet_zone_id(const Message& message, std::size_t, std::string_view) {
   if (message.configuration().text("PRstr_LocationType") == "00000001") return;
-  raise("SB_App_MsgLocationAssignment.PRstr_PACKET_ZONE_ID",
-        "This property cannot be set when <LocationType> is not 0x01");
+  raise(kNoPacketZone);
 }
 
 }  // namespace vorlan::location_update

@@ -19,6 +19,13 @@ std::string location_value(const Message& message, std::size_t index);
 void join_location(const BuildContext& context, BitBuffer& bits);
 void already_joined(const BuildContext& context, BitBuffer& bits);
 void check_packet_zone_id(const Message& message, std::size_t index, std::string_view value);
+inline constexpr ErrorRow kWrongLocationValue{
+    "SB_App_MsgLocationAssignment.CreateMessage", "The <LocationValue> field should be 40 bits long.",
+    "CreateMessage where SID, NID and PACKET_ZONE_ID are not as wide as that"};
+inline constexpr ErrorRow kNoPacketZone{"SB_App_MsgLocationAssignment.PRstr_PACKET_ZONE_ID",
+                                        "This property cannot be set when <LocationType> is not 0x01",
+                                        "let with another LocationType in the configuration"};
+inline constexpr ErrorRow kErrors[] = {kNoPacketZone, kWrongLocationValue};
 }  // namespace location_update
 
 inline constexpr MessageSpec kLocationRequest{
@@ -99,6 +106,7 @@ inline constexpr MessageSpec kLocationAssignment{
     .fields = kLocationAssignmentFields,
     .takes_sector = true,
     .not_initialized = "Class not initialized. Please Call <Initialize> of LocationAssignment Message first.",
+    .further_errors = location_update::kErrors,
 };
 using SB_App_MsgLocationAssignment = MessageOf<kLocationAssignment>;
 

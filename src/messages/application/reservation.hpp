@@ -59,7 +59,7 @@ inline constexpr FieldSpec kReverseFields[] = {
     kReservationCount,
     {.name = "PRstr_ReservationLabel",
      .bits = 8,
-     .repeat = list_of("PRstr_ReservationCount"),
+     .repeat = list_of_at_least_one("PRstr_ReservationCount"),
      .on_resize = OnResize::KeepOld,
      .first_stays = true,
      .index_optional = true,

@@ -18,7 +18,7 @@ void create_redirect(const BuildContext& context, BitBuffer& bits) {
   for (std::size_t i = 0; i < message.stored_count(system); ++i) {
     if (message.stored(system, i).size() + message.stored(band, i).size() + message.stored(number, i).size() !=
         kRecordBits) {
-      raise("SB_Con_MsgRedirect.CreateMessage", "Error: Channel record value should be 24 bits long.");
+      raise(kWrongRecord);
     }
   }
   message.compose(context, bits);

@@ -9,6 +9,9 @@ namespace vorlan {
 namespace air_link_management {
 /// Checks that every channel record is whole.
 void create_redirect(const BuildContext& context, BitBuffer& bits);
+inline constexpr ErrorRow kWrongRecord{"SB_Con_MsgRedirect.CreateMessage",
+                                       "Error: Channel record value should be 24 bits long.",
+                                       "CreateMessage with a channel of the configuration that has another width"};
 }  // namespace air_link_management
 
 inline constexpr FieldSpec kRedirectFields[] = {
@@ -50,6 +53,7 @@ inline constexpr MessageSpec kRedirect{
     .create = air_link_management::create_redirect,
     .not_initialized = "Class not initialized. Please Call <Initialize> of Redirect Message first.",
     .in_encoder_mode = "Encoder and this property cannot be used simultaneously",
+    .further_errors = {&air_link_management::kWrongRecord, 1},
 };
 using SB_Con_MsgRedirect = MessageOf<kRedirect>;
 

@@ -37,17 +37,11 @@ std::string mac_index_msb(const Message& message, std::size_t pilot) {
 }
 
 void check_mac_index_lsbs(const Message& message, std::size_t pilot, std::string_view value) {
-  if (value == mac_index_lsbs(message, pilot)) return;
-  raise("SB_Con_MsgTrafficChannelAssigment.PRstr_MACIndexLSBs",
-        "Incorrect value supplied.Please make sure that any occurence of MACIndexLSBs "
-        "is equal to the 6 least significant bits of the corresponding occurence of MACIndex");
+  if (value != mac_index_lsbs(message, pilot)) raise(kWrongLSBs);
 }
 
 void check_mac_index_msb(const Message& message, std::size_t pilot, std::string_view value) {
-  if (value == mac_index_msb(message, pilot)) return;
-  raise("SB_Con_MsgTrafficChannelAssigment.PRstr_MACIndexMSB",
-        "Incorrect value supplied.Please make sure that any occurence of MACIndexMSB "
-        "is equal to the most significant bit of the corresponding occurence of MACIndex");
+  if (value != mac_index_msb(message, pilot)) raise(kWrongMSB);
 }
 
 }  // namespace vorlan::traffic_channel_assignment

@@ -17,7 +17,16 @@ std::string mac_index_lsbs(const Message& message, std::size_t pilot);
 std::string mac_index_msb(const Message& message, std::size_t pilot);
 void check_mac_index_lsbs(const Message& message, std::size_t pilot, std::string_view value);
 void check_mac_index_msb(const Message& message, std::size_t pilot, std::string_view value);
-
+inline constexpr ErrorRow kWrongLSBs{
+    "SB_Con_MsgTrafficChannelAssigment.PRstr_MACIndexLSBs",
+    "Incorrect value supplied.Please make sure that any occurence of MACIndexLSBs "
+    "is equal to the 6 least significant bits of the corresponding occurence of MACIndex",
+    "let of others"};
+inline constexpr ErrorRow kWrongMSB{"SB_Con_MsgTrafficChannelAssigment.PRstr_MACIndexMSB",
+                                    "Incorrect value supplied.Please make sure that any occurence of MACIndexMSB "
+                                    "is equal to the most significant bit of the corresponding occurence of MACIndex",
+                                    "let of another"};
+inline constexpr ErrorRow kErrors[] = {kWrongLSBs, kWrongMSB};
 }  // namespace traffic_channel_assignment
 
 // The Rev A tail is sent only when a script asks for it: some terminals fall silent on receiving it.
@@ -167,6 +176,7 @@ inline constexpr MessageSpec kTrafficChannelAssignment{
     .too_few_end = " elements.",
     .source = "SB_Con_MsgTrafficChannelAssigment",
     .check_source = "Sb_Con_MsgTrafficChannelAssignment.CreateMessage",
+    .further_errors = traffic_channel_assignment::kErrors,
 };
 using SB_Con_MsgTrafficChannelAssignment = MessageOf<kTrafficChannelAssignment>;
 

@@ -40,9 +40,9 @@ void low_uati(const BuildContext& context, BitBuffer& bits) {
 }
 
 void check_hardware_id_value(const Message& message, std::string_view value) {
-  if (value.size() == 8 * small_value(message.get_field(message.row("PRstr_HardwareIdLength")))) return;
-  raise("SB_Ses_HardwareIDResponse.PRstr_HardwareIdValue",
-        "PRobj_MessageObject not set properly Length of <HardwareIdValue> field is not 8 * HardwareIdLength ");
+  if (value.size() != 8 * small_value(message.get_field(message.row("PRstr_HardwareIdLength")))) {
+    raise(kWrongHardwareIdValue);
+  }
 }
 
 }  // namespace vorlan::address_management

@@ -121,6 +121,10 @@ inline constexpr Code kHardwareIdTypes[] = {{0x010000, "ESN"}, {0x00FFFF, "MEID"
 inline constexpr Meaning kHardwareIdType{.codes = kHardwareIdTypes, .summary = "ESN, MEID or null"};
 /// The value must end with the message: padding behind it is refused.
 void check_hardware_id_value(const Message& message, std::string_view value);
+inline constexpr ErrorRow kWrongHardwareIdValue{
+    "SB_Ses_HardwareIDResponse.PRstr_HardwareIdValue",
+    "PRobj_MessageObject not set properly Length of <HardwareIdValue> field is not 8 * HardwareIdLength ",
+    "get of more or less than the received HardwareIdLength says"};
 }  // namespace address_management
 
 // The four not-set texts of this message are all different, and its sources lack "Msg".
@@ -158,6 +162,7 @@ inline constexpr MessageSpec kHardwareIDResponse{
     .string_unchecked = true,
     .source = "SB_Ses_HardwareIDResponse",
     .id_source = "SB_Ses_HardwareIDResponse.PRstr_MessageId",
+    .further_errors = {&address_management::kWrongHardwareIdValue, 1},
 };
 using SB_Ses_MsgHardwareIDResponse = MessageOf<kHardwareIDResponse>;
 

@@ -8,10 +8,7 @@ void create_soft_configuration_complete(const BuildContext& context, BitBuffer& 
   Message& message = context.message;
   const std::string replacement = context.argument(0);
   if (message.encodes_verbatim()) {
-    if (!replacement.empty()) {
-      raise("SB_Ses_MsgSoftConfigurationComplete.CreateMessage",
-            "Encoder and this property cannot be used simultaneously");
-    }
+    if (!replacement.empty()) raise(kReplacedInEncoderMode);
     bits += message.encoder_string();
     return;
   }

@@ -47,6 +47,9 @@ namespace session_configuration {
 /// Computes the token when the configuration does not go on; a second argument of CreateMessage stands for everything
 /// behind the TransactionID.
 void create_soft_configuration_complete(const BuildContext& context, BitBuffer& bits);
+inline constexpr ErrorRow kReplacedInEncoderMode{"SB_Ses_MsgSoftConfigurationComplete.CreateMessage",
+                                                 "Encoder and this property cannot be used simultaneously",
+                                                 "CreateMessage with AfterTransactionId in encoder mode"};
 }  // namespace session_configuration
 
 inline constexpr FieldSpec kSoftConfigurationCompleteFields[] = {
@@ -74,7 +77,7 @@ inline constexpr FieldSpec kSoftConfigurationCompleteFields[] = {
      .summary = "\"1\" if the configuration is committed."},
     {.name = "PRstr_SessionConfigurationToken",
      .bits = 16,
-     .initial = "0000000000000000",
+     .starts_empty = true,
      .present = is_zero("PRstr_Continue"),
      .exposure = Exposure::GetOnly,
      .summary = "Twelve zeros and the committed personality."},
@@ -99,6 +102,7 @@ inline constexpr MessageSpec kSoftConfigurationComplete{
     .create = session_configuration::create_soft_configuration_complete,
     .not_initialized = "Class not initialized. Please call <Initialize> of SoftConfigurationComplete Message first.",
     .not_set = "SoftConfigurationComplete message object not set. Please set property <PRobj_MessageObject> first.",
+    .further_errors = {&session_configuration::kReplacedInEncoderMode, 1},
 };
 using SB_Ses_MsgSoftConfigurationComplete = MessageOf<kSoftConfigurationComplete>;
 
