@@ -1,6 +1,7 @@
 // vorlan encode and vorlan decode
 #include <algorithm>
 
+#include "attributes/negotiation/dissection.hpp"
 #include "automation/error.hpp"
 #include "cli/assignment.hpp"
 #include "cli/commands.hpp"
@@ -11,7 +12,9 @@
 #include "cli/record_codec.hpp"
 #include "cli/sector.hpp"
 #include "cli/table.hpp"
+#include "codec/protocol.hpp"
 #include "common/bits.hpp"
+#include "common/octets.hpp"
 #include "messages/dissection.hpp"
 #include "messages/identification.hpp"
 #include "messages/message.hpp"
@@ -150,14 +153,22 @@ void encode(const Registry& registry, const EncodeOptions& options, bool json) {
 
 namespace {
 
+/// The class of this name; if octets stand in its place, the error says what is missing.
+const Registry::Class& class_to_decode(const Registry& registry, const std::string& name) {
+  const bool is_octets = name.find_first_not_of("0123456789ABCDEFabcdefXx:") == std::string::npos;
+  if (is_octets) throw Error(ErrorNumber::CannotCreateObject, "decode", name + " (a CLASS or --protocol is wanted)");
+  return class_named(registry, name);
+}
+
 /// The one class whose message begins with these octets; an error that names them all if there are several.
 const Registry::Class& class_of(const Registry& registry, const std::string& where,
                                 const std::vector<std::uint8_t>& octets) {
-  std::string bits(octets.size() * 8, '0');
-  unpack_bits(octets.data(), bits.size(), bits.data());
+  const std::string bits = bits_of(octets);
   const auto found = identify(registry, where, bits);
   if (found.size() == 1) return registry.at(found.front()->info().name());
-  if (const Registry::Class* carrier = found.empty() ? carrier_of_records(registry, bits) : nullptr) return *carrier;
+  if (const NegotiationClass* carrier = found.empty() ? carrier_of_records(bits) : nullptr) {
+    return registry.at(carrier->info().name());
+  }
   std::string names;
   for (const MessageClass* message : found) {
     names.append(names.empty() ? "" : ", ").append(message->info().name());
@@ -178,7 +189,7 @@ void decode(const Registry& registry, const std::string& where, const std::vecto
   for (const std::string& word : std::span(words).subspan(class_is_named ? 1 : 0)) {
     (word.find('=') == std::string::npos ? digits : assignments).push_back(word);
   }
-  const Registry::Class* named = class_is_named ? &class_named(registry, words.front()) : nullptr;
+  const Registry::Class* named = class_is_named ? &class_to_decode(registry, words.front()) : nullptr;
   const std::vector<std::uint8_t> octets = parse_octets(digits);
   if (octets.empty()) throw UsageError("no octets given");
 

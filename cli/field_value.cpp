@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "automation/error.hpp"
+#include "common/octets.hpp"
 
 namespace vorlan::cli {
 
@@ -13,7 +14,7 @@ namespace {
 bool is_bits(std::string_view text) noexcept { return text.find_first_not_of("01") == std::string_view::npos; }
 
 /// Without leading zeros.
-std::string bits_of(std::uint64_t number) {
+std::string bits_of_number(std::uint64_t number) {
   std::string bits;
   for (; number != 0; number >>= 1U) bits.insert(bits.begin(), (number & 1U) != 0 ? '1' : '0');
   return bits;
@@ -23,9 +24,9 @@ std::string bits_of(std::uint64_t number) {
 std::string bits_of_hex(std::string_view digits) {
   std::string bits;
   for (const char digit : digits) {
-    unsigned value = 0;
-    if (std::from_chars(&digit, &digit + 1, value, 16).ec != std::errc()) return {};
-    for (unsigned mask = 8; mask != 0; mask >>= 1U) bits += (value & mask) != 0 ? '1' : '0';
+    const int value = hex_digit(digit);
+    if (value < 0) return {};
+    for (int mask = 8; mask != 0; mask >>= 1) bits += (value & mask) != 0 ? '1' : '0';
   }
   return bits;
 }
@@ -71,8 +72,8 @@ std::string field_bits(std::string_view text, std::size_t width, std::string_vie
   if (fault == std::errc::result_out_of_range) {
     throw Error(ErrorNumber::Overflow, source, "\"" + std::string(text) + "\" is too large; write it as 0x...");
   }
-  if (!negative || number == 0) return widened(bits_of(number), width, text, source);
-  const std::string magnitude = bits_of(number - 1);
+  if (!negative || number == 0) return widened(bits_of_number(number), width, text, source);
+  const std::string magnitude = bits_of_number(number - 1);
   if (magnitude.size() >= width || width > kNumberBits) {
     throw Error(ErrorNumber::Overflow, source,
                 "\"" + std::string(text) + "\" does not fit into " + std::to_string(width) + " bits");

@@ -1,11 +1,12 @@
 // vorlan ladder
 #include <cstdio>
 #include <fstream>
+#include <optional>
+#include <stdexcept>
+#include <utility>
 
 #include "automation/error.hpp"
 #include "cli/commands.hpp"
-#include "cli/record_codec.hpp"
-#include "common/bits.hpp"
 #include "nlohmann/json.hpp"
 #include "simulator/trace/ladder.hpp"
 
@@ -15,26 +16,35 @@ namespace {
 
 using simulator::TraceEntry;
 
-TraceEntry parse_entry(const std::string& line) {
-  const auto json = nlohmann::json::parse(line);
-  const auto direction = json.at("direction").get<std::string>();
-  if (direction != "forward" && direction != "reverse") throw std::invalid_argument("direction is forward or reverse");
-  return {.time = std::chrono::milliseconds(json.at("time_ms").get<std::int64_t>()),
-          .forward = direction == "forward",
-          .protocol = json.at("protocol").get<int>(),
-          .label = json.value("label", ""),
-          .octets = simulator::parse_hex(json.at("octets").get<std::string>()),
-          .note = json.value("note", "")};
+/// Nothing if there is none; an error if it is of another type.
+template <class T>
+std::optional<T> part_of(const nlohmann::json& line, const char* name) {
+  const auto found = line.find(name);
+  if (found == line.end()) return std::nullopt;
+  try {
+    return found->get<T>();
+  } catch (const nlohmann::json::exception&) {
+    throw std::invalid_argument(std::string(name) + " is of the wrong type");
+  }
 }
 
-/// With every attribute by its name, as decode shows them.
-std::optional<simulator::LadderRung> carrier(const Registry& registry, int protocol,
-                                             std::span<const std::uint8_t> octets) {
-  std::string bits(octets.size() * 8, '0');
-  unpack_bits(octets.data(), bits.size(), bits.data());
-  auto found = dissect_carrier(registry, protocol, bits);
-  if (!found) return std::nullopt;
-  return simulator::LadderRung{std::move(found->first), std::move(found->second)};
+template <class T>
+T needed_part_of(const nlohmann::json& line, const char* name) {
+  if (auto part = part_of<T>(line, name)) return std::move(*part);
+  throw std::invalid_argument(std::string("no ") + name);
+}
+
+TraceEntry parse_entry(const std::string& line) {
+  const auto json = nlohmann::json::parse(line, nullptr, false);
+  if (json.is_discarded()) throw std::invalid_argument("not JSON");
+  const auto direction = needed_part_of<std::string>(json, "direction");
+  if (direction != "forward" && direction != "reverse") throw std::invalid_argument("direction is forward or reverse");
+  return {.time = std::chrono::milliseconds(needed_part_of<std::int64_t>(json, "time_ms")),
+          .forward = direction == "forward",
+          .protocol = needed_part_of<int>(json, "protocol"),
+          .label = part_of<std::string>(json, "label").value_or(""),
+          .octets = simulator::parse_hex(needed_part_of<std::string>(json, "octets")),
+          .note = part_of<std::string>(json, "note").value_or("")};
 }
 
 }  // namespace
@@ -54,7 +64,7 @@ void ladder(const Registry& registry, const std::string& path) {
     }
   }
   if (file.bad()) throw Error(ErrorNumber::FileAccess, "ladder", path);  // a folder, say
-  std::fputs(simulator::ladder_text(entries, registry, carrier).c_str(), stdout);
+  std::fputs(simulator::ladder_text(entries, registry).c_str(), stdout);
 }
 
 }  // namespace vorlan::cli

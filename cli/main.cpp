@@ -9,7 +9,7 @@
 #include "cli/field_value.hpp"
 #include "nlohmann/json.hpp"
 #include "server/classes.hpp"
-#include "simulator/message_object.hpp"
+#include "simulator/classes.hpp"
 
 namespace {
 
@@ -17,13 +17,6 @@ using namespace vorlan;
 
 constexpr int kAutomationError = 1;
 constexpr int kWrongUsage = 2;
-
-Registry all_classes() {
-  const auto own = class_tables();
-  std::vector<ClassTable> tables(own.begin(), own.end());
-  tables.push_back({"VorlanSim", simulator::classes()});
-  return Registry(tables);
-}
 
 void report(const Error& error, bool json) {
   if (json) {
@@ -85,7 +78,7 @@ struct CommandLine {
   }
 
   void run() {
-    const Registry registry = all_classes();
+    const Registry registry(simulator::with_simulator(class_tables()));
     if (classes->parsed()) cli::list_classes(registry, name, json);
     if (describe->parsed()) cli::describe_class(registry, name, json);
     if (encode->parsed()) cli::encode(registry, encoding, json);

@@ -55,12 +55,6 @@ const Registry::Class& class_named(const Registry& registry, const std::string& 
   throw Error(ErrorNumber::CannotCreateObject, "Vorlan", alike > 0 && alike <= kFew ? name + meant + "?)" : name);
 }
 
-std::string_view bare_name(std::string_view member) noexcept {
-  const auto underscore = member.find('_');
-  if (underscore == std::string_view::npos || !equals_ignoring_case(member.substr(0, 2), "PR")) return member;
-  return member.substr(underscore + 1);
-}
-
 bool same_member(std::string_view typed, std::string_view member) noexcept {
   return equals_ignoring_case(typed, member) || equals_ignoring_case(typed, bare_name(member));
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "automation/registry.hpp"
+#include "codec/member_name.hpp"
 
 namespace vorlan::cli {
 
@@ -17,8 +18,6 @@ std::string listed_name(const Registry::Class& named);
 /// Error 429 if there is no such class; the description then names the classes that are meant, if they are few.
 const Registry::Class& class_named(const Registry& registry, const std::string& name);
 
-/// A property's name without its "PRstr_".
-std::string_view bare_name(std::string_view member) noexcept;
 /// The same member, whether either name has its prefix or not.
 bool same_member(std::string_view typed, std::string_view member) noexcept;
 

@@ -1,15 +1,15 @@
 #include "cli/octets.hpp"
 
-#include <charconv>
 #include <string_view>
 
 #include "automation/error.hpp"
+#include "common/octets.hpp"
 
 namespace vorlan::cli {
 
 std::vector<std::uint8_t> parse_octets(std::span<const std::string> words) {
   std::vector<std::uint8_t> octets;
-  unsigned pending = 0;
+  int pending = 0;
   bool half = false;
   for (const std::string& whole : words) {
     std::string_view word = whole;
@@ -21,8 +21,8 @@ std::vector<std::uint8_t> parse_octets(std::span<const std::string> words) {
       const char c = word.front();
       word.remove_prefix(1);
       if (c == ' ' || c == ':' || c == '\t' || c == '\n' || c == '\r') continue;
-      unsigned digit = 0;
-      if (std::from_chars(&c, &c + 1, digit, 16).ec != std::errc()) {
+      const int digit = hex_digit(c);
+      if (digit < 0) {
         throw Error(ErrorNumber::TypeMismatch, "Vorlan", "\"" + whole + "\" is not hexadecimal");
       }
       pending = pending * 16 + digit;
@@ -33,17 +33,6 @@ std::vector<std::uint8_t> parse_octets(std::span<const std::string> words) {
   }
   if (half) throw Error(ErrorNumber::TypeMismatch, "Vorlan", "an odd number of hexadecimal digits");
   return octets;
-}
-
-std::string octets_text(std::span<const std::uint8_t> octets) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string text;
-  for (const std::uint8_t octet : octets) {
-    if (!text.empty()) text += ' ';
-    text += kDigits[octet >> 4U];
-    text += kDigits[octet & 0xFU];
-  }
-  return text;
 }
 
 }  // namespace vorlan::cli

@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <vector>
 
-#include "cli/octets.hpp"
 #include "common/bits.hpp"
+#include "common/octets.hpp"
 #include "nlohmann/json.hpp"
 
 namespace vorlan::cli {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <tuple>
+#include <utility>
 
 #include "attributes/complex/complex_attribute.hpp"
 #include "attributes/dissection.hpp"
@@ -16,7 +17,6 @@
 #include "cli/print_dissected.hpp"
 #include "codec/protocol.hpp"
 #include "common/bits.hpp"
-#include "common/conversions.hpp"
 #include "platform/platform.hpp"
 
 namespace vorlan::cli {
@@ -29,6 +29,7 @@ struct Setting {
   int member;
   Assignment assignment;
   std::vector<Value> indices;
+  Access access = Access::Let;
 };
 
 std::vector<Value> indices_of(const Assignment& assignment) {
@@ -42,12 +43,17 @@ std::vector<Value> indices_of(const Assignment& assignment) {
   return indices;
 }
 
+std::string source_of(const ClassObject& object, std::string_view member) {
+  return std::string(object.class_info()->name()).append(".").append(member);
+}
+
 /// In bits; 0 where the member has no width of its own.
 std::size_t width_of(const ClassObject& object, int member, std::string_view name) {
   constexpr std::size_t kOctet = 8;
   if (const auto* value = dynamic_cast<const AttributeValue*>(&object)) {
     const ValueClass::Member& row = value->value_class().member(static_cast<std::size_t>(member));
-    const bool of_field = row.action == ValueClass::Action::Field || row.action == ValueClass::Action::Element;
+    const bool of_field = row.action == ValueClass::Action::Field || row.action == ValueClass::Action::Element ||
+                          row.action == ValueClass::Action::LetElement;
     return of_field ? value->record().width(row.field) : 0;
   }
   if (name == "PRstr_Length" || name == "PRstr_TransactionId") return kOctet;
@@ -63,19 +69,43 @@ std::size_t width_of(const ClassObject& object, int member, std::string_view nam
   return 0;
 }
 
+/// How "FIELD[i]" or "FIELD[i,j]" is set by a member of a value class: by the property of that element, or by the
+/// method that writes elements; nothing if the member does neither. Error 13 for an index that is no number.
+std::optional<Access> element_access(const ValueClass& value, const ValueClass::Member& member,
+                                     const Assignment& assignment, std::span<const Value> indices) {
+  const bool writes = member.action == ValueClass::Action::LetElement;
+  if (!writes && member.action != ValueClass::Action::Element) return std::nullopt;
+  const RecordField& field = *value.record().field(member.field).spec;
+  if (!same_member(assignment.name, field.name) || indices.size() != (is_table(field) ? 2 : 1)) return std::nullopt;
+  if (writes) return Access::Call;
+  const bool here = std::cmp_equal(indices.front().to_integer(), member.at.index) &&
+                    (!is_table(field) || std::cmp_equal(indices.back().to_integer(), member.at.inner));
+  return here ? std::optional(Access::Let) : std::nullopt;
+}
+
 /// The member that an assignment sets; of a method's argument, -1.
 std::optional<Setting> find_setting(std::span<ClassObject* const> objects, Assignment assignment,
                                     std::string_view argument) {
-  if (!argument.empty() && same_member(assignment.name, argument))
+  if (!argument.empty() && same_member(assignment.name, argument)) {
     return Setting{nullptr, -1, std::move(assignment), {}};
+  }
+  std::vector<Value> indices = indices_of(assignment);
   for (ClassObject* object : objects) {
+    const auto* value = dynamic_cast<const AttributeValue*>(object);
     const auto members = object->class_info()->members();
-    const auto found = std::find_if(members.begin(), members.end(), [&](const MemberInfo& member) {
-      return member.lets && same_member(assignment.name, member.name);
-    });
-    if (found == members.end()) continue;
-    std::vector<Value> indices = indices_of(assignment);
-    return Setting{object, static_cast<int>(found - members.begin()), std::move(assignment), std::move(indices)};
+    for (std::size_t i = 0; i < members.size(); ++i) {
+      const int member = static_cast<int>(i);
+      if (members[i].lets && same_member(assignment.name, members[i].name)) {
+        return Setting{object, member, std::move(assignment), std::move(indices)};
+      }
+      if (value == nullptr) continue;
+      const auto access = element_access(value->value_class(), value->value_class().member(i), assignment, indices);
+      if (access == Access::Call) return Setting{object, member, std::move(assignment), std::move(indices), *access};
+      if (access == Access::Let) {
+        assignment.index.reset();  // the element's own property has none
+        return Setting{object, member, std::move(assignment), {}};
+      }
+    }
   }
   return std::nullopt;
 }
@@ -86,9 +116,9 @@ std::optional<std::string> assign(std::span<ClassObject* const> objects, const s
   std::vector<Setting> settings;
   for (const std::string& word : words) {
     Assignment assignment = parse_assignment(word);
-    const std::string name = assignment.name;
+    const std::string typed = word.substr(0, word.find('='));
     auto setting = find_setting(objects, std::move(assignment), argument);
-    if (!setting) throw Error(ErrorNumber::MemberNotFound, objects.front()->class_info()->name(), name);
+    if (!setting) throw Error(ErrorNumber::MemberNotFound, objects.front()->class_info()->name(), typed);
     settings.push_back(std::move(*setting));
   }
   const auto key = [](const Setting& s) { return std::tuple(s.object, s.member, s.assignment.index.value_or("")); };
@@ -102,37 +132,39 @@ std::optional<std::string> assign(std::span<ClassObject* const> objects, const s
   std::optional<std::string> given;
   for (const Setting& setting : settings) {
     if (setting.object == nullptr) {
-      given = field_bits(setting.assignment.value, 0, argument);
+      given = field_bits(setting.assignment.value, 0, source_of(*objects.front(), argument));
       continue;
     }
     const std::string_view name =
         setting.object->class_info()->members()[static_cast<std::size_t>(setting.member)].name;
     const std::size_t width = width_of(*setting.object, setting.member, name);
     std::vector<Value> arguments = setting.indices;
-    arguments.emplace_back(field_bits(setting.assignment.value, width, name));
-    setting.object->invoke(name, Access::Let, arguments);
+    arguments.emplace_back(field_bits(setting.assignment.value, width, source_of(*setting.object, name)));
+    setting.object->invoke(name, setting.access, arguments);
   }
   return given;
 }
 
 Extent whole(std::string_view bits) { return {0, static_cast<std::uint32_t>(bits.size())}; }
 
-std::optional<int> type_number(const std::string& where) {
+/// The protocol type that a name or a number stands for; of a stream's application, that of stream 0.
+std::optional<int> protocol_type(const std::string& where) {
   if (where.empty()) return std::nullopt;
+  if (const auto type = parse_protocol_type(where)) return type;
+  bool is_layer = false;
   for (const ProtocolInfo& info : protocols()) {
-    if (info.type >= 0 && equals_ignoring_case(info.name, where)) return info.type;
+    if (equals_ignoring_case(info.name, where)) return info.type >= 0 ? info.type : kStream0Type;
+    is_layer = is_layer || equals_ignoring_case(info.layer, where);
   }
-  const bool is_hex = where.starts_with("0x") || where.starts_with("0X");
-  const auto number = parse_number(is_hex ? "&H" + where.substr(2) : where);
-  if (!number) throw Error(ErrorNumber::InvalidCall, {}, "no protocol is called " + where);
-  return static_cast<int>(*number);
+  throw Error(ErrorNumber::InvalidCall, "decode",
+              is_layer ? where + " names a layer; a protocol is wanted" : "no protocol is called " + where);
 }
 
 void print_record(const Registry& registry, const ClassObject& object, std::string_view bits, const std::string& where,
                   bool json) {
   std::vector<DissectedField> tree;
   if (const auto* message = dynamic_cast<const NegotiationMessage*>(&object)) {
-    tree = dissect(message->message_class(), bits, AttributeCatalogue(registry), type_number(where));
+    tree = dissect(message->message_class(), bits, AttributeCatalogue(registry), protocol_type(where));
   } else if (const auto* attribute = dynamic_cast<const Attribute*>(&object)) {
     tree = attribute->dissect(bits, whole(bits));
   } else if (const auto* value = dynamic_cast<const AttributeValue*>(&object)) {
@@ -182,34 +214,8 @@ bool decode_record(const Registry& registry, const Ref<Object>& object, std::spa
     return false;
   }
   if (!assignments.empty()) throw no_layout(known->class_info()->name(), parse_assignment(assignments.front()));
-  std::string bits(octets.size() * 8, '0');
-  unpack_bits(octets.data(), bits.size(), bits.data());
-  print_record(registry, *known, bits, where, json);
+  print_record(registry, *known, bits_of(octets), where, json);
   return true;
-}
-
-std::optional<std::pair<std::string, std::vector<DissectedField>>> dissect_carrier(const Registry& registry,
-                                                                                   int protocol_type,
-                                                                                   std::string_view bits) {
-  const Registry::Class* carrier = carrier_of_records(registry, bits);
-  if (carrier == nullptr) return std::nullopt;
-  Platform nothing;
-  const Ref<Object> object = carrier->entry->create(nothing);
-  const auto& message = dynamic_cast<const NegotiationMessage&>(*object);
-  static const AttributeCatalogue kCatalogue(registry);
-  return std::pair(std::string(carrier->name()), dissect(message.message_class(), bits, kCatalogue, protocol_type));
-}
-
-const Registry::Class* carrier_of_records(const Registry& registry, std::string_view bits) {
-  constexpr std::string_view kCarriers[] = {"SB_MsgConfigurationRequest", "SB_MsgConfigurationResponse",
-                                            "SB_MsgAttributeUpdateRequest"};
-  Platform nothing;
-  for (const std::string_view name : kCarriers) {
-    const Ref<Object> object = registry.create(name, nothing);
-    const auto* message = dynamic_cast<const NegotiationMessage*>(object.get());
-    if (message != nullptr && bits.starts_with(message->message_class().spec().id)) return registry.find(name);
-  }
-  return nullptr;
 }
 
 }  // namespace vorlan::cli

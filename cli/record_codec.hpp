@@ -2,13 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "automation/registry.hpp"
-#include "codec/field_tree.hpp"
 
 namespace vorlan::cli {
 
@@ -20,12 +18,5 @@ bool encode_record(const Registry& registry, const Ref<Object>& object, const st
 /// may be empty. There are no layouts to choose: error 438 for an assignment. False if the object is of another kind.
 bool decode_record(const Registry& registry, const Ref<Object>& object, std::span<const std::uint8_t> octets,
                    const std::vector<std::string>& assignments, const std::string& where, bool json);
-/// A message that carries attribute records taken apart, and its class; nothing if it is another message.
-std::optional<std::pair<std::string, std::vector<DissectedField>>> dissect_carrier(const Registry& registry,
-                                                                                   int protocol_type,
-                                                                                   std::string_view bits);
-/// The class of a message that carries attribute records, by its MessageID, which is the same in all protocols; null if
-/// it is another message.
-const Registry::Class* carrier_of_records(const Registry& registry, std::string_view bits);
 
 }  // namespace vorlan::cli

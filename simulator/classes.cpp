@@ -61,4 +61,10 @@ std::span<const ClassEntry> classes() noexcept {
   return kClasses;
 }
 
+std::vector<ClassTable> with_simulator(std::span<const ClassTable> tables) {
+  std::vector<ClassTable> all(tables.begin(), tables.end());
+  all.push_back({"VorlanSim", classes()});
+  return all;
+}
+
 }  // namespace vorlan::simulator

@@ -4,6 +4,7 @@
 
 #include "automation/error.hpp"
 #include "common/bits.hpp"
+#include "common/octets.hpp"
 
 namespace vorlan::simulator {
 
@@ -52,7 +53,7 @@ void MessageObject::write_octets(std::span<const std::uint8_t> octets) {
 std::string MessageObject::hex() const {
   Octets octets = octets_;
   octets.resize(static_cast<std::size_t>((length_ + 7) / 8));
-  return hex_text(octets);
+  return octets_text(octets);
 }
 
 void MessageObject::set_hex(const std::string& text) {

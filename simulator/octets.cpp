@@ -1,31 +1,9 @@
 #include "simulator/octets.hpp"
 
 #include "automation/error.hpp"
+#include "common/octets.hpp"
 
 namespace vorlan::simulator {
-
-namespace {
-
-int hex_digit(char c) noexcept {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
-
-}  // namespace
-
-std::string hex_text(std::span<const std::uint8_t> octets) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string text;
-  text.reserve(octets.size() * 3);
-  for (const std::uint8_t octet : octets) {
-    if (!text.empty()) text += ' ';
-    text += kDigits[octet >> 4U];
-    text += kDigits[octet & 0xFU];
-  }
-  return text;
-}
 
 Octets parse_hex(std::string_view text) {
   Octets octets;

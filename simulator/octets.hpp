@@ -1,18 +1,14 @@
-// Octets as the simulator hands them about, and as people write them.
+// Octets as the simulator hands them about, and as scripts write them.
 #pragma once
 
 #include <cstdint>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
 namespace vorlan::simulator {
 
 using Octets = std::vector<std::uint8_t>;
-
-/// "01 0A FF".
-std::string hex_text(std::span<const std::uint8_t> octets);
 
 /// Reads "01 0A ff" or "010AFF"; error 13 for anything else and for half an octet.
 Octets parse_hex(std::string_view text);

@@ -122,11 +122,7 @@ bool Signalling::wait_for_message(const std::string& label, std::int32_t handle,
   return take(label, next_in(handle, until));
 }
 
-std::string Signalling::fetch_message() const {
-  std::string bits(fetched_.size() * 8, '0');
-  unpack_bits(fetched_.data(), bits.size(), bits.data());
-  return bits;
-}
+std::string Signalling::fetch_message() const { return bits_of(fetched_); }
 
 void Signalling::send_message(const std::string& label, std::int16_t, const std::string& message,
                               std::int16_t protocol_type, std::int16_t, std::int16_t, std::int16_t, std::int16_t) {

@@ -3,16 +3,11 @@
 #include <string>
 
 #include "server/classes.hpp"
-#include "simulator/message_object.hpp"
+#include "simulator/classes.hpp"
 
 namespace vorlan::python {
 
-Registry module_registry() {
-  const auto library = class_tables();
-  std::vector<ClassTable> tables(library.begin(), library.end());
-  tables.push_back({"VorlanSim", simulator::classes()});
-  return Registry(tables);
-}
+Registry module_registry() { return Registry(simulator::with_simulator(class_tables())); }
 
 std::string_view python_type(ValueType type) noexcept {
   switch (type) {

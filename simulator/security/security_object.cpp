@@ -1,6 +1,7 @@
 #include "simulator/security/security_object.hpp"
 
 #include "common/bits.hpp"
+#include "common/octets.hpp"
 #include "simulator/message_object.hpp"
 
 namespace vorlan::simulator {
@@ -24,13 +25,7 @@ constexpr BoundMember kMembers[] = {
     property<&S::keys_agree>("KeysAgree", "Simulator only: whether the terminal has computed the same session key."),
 };
 
-std::string bits_of(std::span<const std::uint8_t> octets) {
-  std::string bits(octets.size() * 8, '0');
-  unpack_bits(octets.data(), bits.size(), bits.data());
-  return bits;
-}
-
-std::string bits_of(std::uint16_t number) {
+std::string number_bits(std::uint16_t number) {
   const std::uint8_t octets[] = {static_cast<std::uint8_t>(number >> 8), static_cast<std::uint8_t>(number & 0xFF)};
   return bits_of(octets);
 }
@@ -47,9 +42,9 @@ void SecurityObject::set_at_public_key(Ref<Object> key) {
   simulation_->security.take_at_public_key(octets_of(deref(key, "Security.SetATPublicKey")));
 }
 
-std::string SecurityObject::nonce() { return bits_of(simulation_->security.new_nonce()); }
+std::string SecurityObject::nonce() { return number_bits(simulation_->security.new_nonce()); }
 
-std::string SecurityObject::time_stamp_short() const { return bits_of(simulation_->security.time_stamp_short()); }
+std::string SecurityObject::time_stamp_short() const { return number_bits(simulation_->security.time_stamp_short()); }
 
 std::string SecurityObject::key_signature(std::int16_t transaction_id) const {
   if (transaction_id < 0 || transaction_id > 0xFF) {
@@ -58,7 +53,7 @@ std::string SecurityObject::key_signature(std::int16_t transaction_id) const {
   return bits_of(simulation_->security.signature(static_cast<std::uint8_t>(transaction_id)));
 }
 
-std::string SecurityObject::session_key() const { return hex_text(simulation_->security.session_key()); }
+std::string SecurityObject::session_key() const { return octets_text(simulation_->security.session_key()); }
 
 bool SecurityObject::keys_agree() const {
   const Octets& own = simulation_->security.session_key();

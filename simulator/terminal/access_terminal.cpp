@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/octets.hpp"
 #include "simulator/message_object.hpp"
 
 namespace vorlan::simulator {
@@ -102,7 +103,7 @@ void AccessTerminal::set_configuration_order(const Value& protocols) {
 std::string AccessTerminal::proposal(std::int16_t protocol) const {
   const auto& proposals = terminal().negotiation.proposals;
   const auto found = proposals.find(protocol);
-  return found == proposals.end() ? std::string() : hex_text(found->second);
+  return found == proposals.end() ? std::string() : octets_text(found->second);
 }
 
 void AccessTerminal::set_proposal(std::int16_t protocol, const std::string& records) {

@@ -12,33 +12,33 @@ constexpr int kFirstStream = 20;
 constexpr int kLastStream = 23;
 
 constexpr AttributeRule kRules[] = {
-    {2, 0x00, 0x00, "InitialConfiguration", true, 0},
-    {2, 0x01, 0x01, "PowerParameters", true, 0},
-    {3, 0x00, 0x00, "HandoffDelays", true, 0},
-    {3, 0x01, 0x01, "DRCLock", true, 0},
-    {kReverseMac, 0x00, 0x00, "PowerParameters", true, 0},
-    {kReverseMac, 0x01, 0x01, "RateParameters", true, 0},
-    {5, 0x00, 0x00, "SKeyLength", false, 1},
-    {6, 0x00, 0x00, "ACAuthKeyLength", false, 2},
-    {12, 0x00, 0x00, "PreferredControlChannelCycle", true, 0},
-    {12, 0x01, 0x01, "SlottedMode", true, 0},
-    {12, 0x02, 0x02, "PagingMask", true, 0},
-    {14, 0x00, 0x00, "SearchParameters", true, 0},
-    {14, 0x01, 0x01, "SetManagementSameChannelParameters", true, 0},
-    {14, 0x02, 0x02, "SetManagementDifferentChannelParameters", true, 0},
-    {14, 0x04, 0x04, "SupportedCDMAChannels", true, 0},
-    {kSessionConfiguration, 0x0000, 0x00FF, "ProtocolType", false, 2},
-    {kSessionConfiguration, 0x0100, 0x0100, "SessionConfigurationToken", false, 2},
-    {kSessionConfiguration, 0x0101, 0x0101, "SupportGAUPSessionConfigurationToken", false, 2},
-    {kSessionConfiguration, 0x0102, 0x0102, "SupportConfigurationLock", false, 2},
-    {kSessionConfiguration, 0x0110, 0x0110, "PersonalityCount", false, 2},
-    {kSessionConfiguration, 0x1000, 0x1000, "PriorSession", true, 0},
-    {kSessionConfiguration, 0x1001, 0x1001, "ATSupportedApplicationSubtypes", true, 0},
-    {19, 0x00, 0x00, "StreamConfiguration", true, 0},
+    {2, 0x00, 0x00, true, 0},                           // InitialConfiguration
+    {2, 0x01, 0x01, true, 0},                           // PowerParameters
+    {3, 0x00, 0x00, true, 0},                           // HandoffDelays
+    {3, 0x01, 0x01, true, 0},                           // DRCLock
+    {kReverseMac, 0x00, 0x00, true, 0},                 // PowerParameters
+    {kReverseMac, 0x01, 0x01, true, 0},                 // RateParameters
+    {5, 0x00, 0x00, false, 1},                          // SKeyLength
+    {6, 0x00, 0x00, false, 2},                          // ACAuthKeyLength
+    {12, 0x00, 0x00, true, 0},                          // PreferredControlChannelCycle
+    {12, 0x01, 0x01, true, 0},                          // SlottedMode
+    {12, 0x02, 0x02, true, 0},                          // PagingMask
+    {14, 0x00, 0x00, true, 0},                          // SearchParameters
+    {14, 0x01, 0x01, true, 0},                          // SetManagementSameChannelParameters
+    {14, 0x02, 0x02, true, 0},                          // SetManagementDifferentChannelParameters
+    {14, 0x04, 0x04, true, 0},                          // SupportedCDMAChannels
+    {kSessionConfiguration, 0x0000, 0x00FF, false, 2},  // ProtocolType
+    {kSessionConfiguration, 0x0100, 0x0100, false, 2},  // SessionConfigurationToken
+    {kSessionConfiguration, 0x0101, 0x0101, false, 2},  // SupportGAUPSessionConfigurationToken
+    {kSessionConfiguration, 0x0102, 0x0102, false, 2},  // SupportConfigurationLock
+    {kSessionConfiguration, 0x0110, 0x0110, false, 2},  // PersonalityCount
+    {kSessionConfiguration, 0x1000, 0x1000, true, 0},   // PriorSession
+    {kSessionConfiguration, 0x1001, 0x1001, true, 0},   // ATSupportedApplicationSubtypes
+    {19, 0x00, 0x00, true, 0},                          // StreamConfiguration
 };
 
 // Subtype 3: value records up to 0x16NN, plain octets from 0xF9NN on.
-constexpr AttributeRule kReverseMacSubtype3{kReverseMac, 0x0000, 0x16FF, "", true, 0};
+constexpr AttributeRule kReverseMacSubtype3{kReverseMac, 0x0000, 0x16FF, true, 0};
 
 bool wide_reverse_mac(int protocol, int subtype) noexcept { return protocol == kReverseMac && subtype >= 3; }
 
@@ -54,7 +54,7 @@ AttributeRule attribute_rule(int protocol, int subtype, int id) noexcept {
       if (rule.protocol == protocol && covers(rule, id)) return rule;
     }
   }
-  return {protocol, id, id, "", false, 1};
+  return {protocol, id, id, false, 1};
 }
 
 int attribute_id_octets(int protocol, int subtype) noexcept {

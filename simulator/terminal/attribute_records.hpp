@@ -12,12 +12,11 @@ struct AttributeRule {
   int protocol;
   int first_id;
   int last_id;
-  std::string_view name;
   bool complex;      ///< its values are records that begin with a ValueID
   int value_octets;  ///< of one offered value of a simple attribute
 };
 
-/// The rule for an attribute; a simple attribute of one octet, without a name, where nothing else is known.
+/// The rule for an attribute; a simple attribute of one octet where nothing else is known.
 AttributeRule attribute_rule(int protocol, int subtype, int id) noexcept;
 
 /// Octets of the protocol's AttributeIDs: 1 or 2.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "common/octets.hpp"
+
 namespace vorlan::simulator {
 
 namespace {
@@ -132,7 +134,7 @@ void Negotiation::check_response(int protocol, std::span<const std::uint8_t> oct
       agree(protocol, answer.id, answer.value);
     } else {
       const Octets id{octet(answer.id >> 8), octet(answer.id)};
-      link_->complain("attribute " + hex_text(std::span(id).last(static_cast<std::size_t>(id_octets))) +
+      link_->complain("attribute " + octets_text(std::span(id).last(static_cast<std::size_t>(id_octets))) +
                       " is answered with something that was not proposed");
     }
   }

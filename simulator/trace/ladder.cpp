@@ -3,30 +3,33 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "attributes/negotiation/dissection.hpp"
 #include "automation/error.hpp"
+#include "codec/protocol.hpp"
 #include "common/bits.hpp"
+#include "common/octets.hpp"
 #include "messages/dissection.hpp"
 #include "messages/identification.hpp"
-#include "simulator/trace/carrier_messages.hpp"
 
 namespace vorlan::simulator {
 
 namespace {
 
-std::string bits_of(const Octets& octets) {
-  std::string bits(octets.size() * 8, '0');
-  unpack_bits(octets.data(), bits.size(), bits.data());
-  return bits;
-}
+/// A message as the ladder shows it; without fields where nobody knows its layout.
+struct Rung {
+  std::string name;  ///< "SB_Ses_MsgSessionClose", or "message 07" where it is unknown
+  std::vector<DissectedField> fields;
+};
 
-/// The classes of a protocol's messages that begin like this one and go its way; none for a protocol that has none.
+/// The classes of a protocol's messages that begin like this one and go its way, those that several protocols share
+/// among them; none for a protocol that is not known.
 std::vector<const MessageClass*> candidates(const TraceEntry& entry, const std::string& where, const std::string& bits,
                                             const Registry& registry) {
   try {
     auto found = identify(registry, where, bits);
     std::erase_if(found, [&](const MessageClass* message) {
-      return message->spec().protocol == Protocol::None ||
-             !(entry.forward ? message->spec().builds() : message->spec().parses());
+      const MessageSpec& spec = message->spec();
+      return spec.protocol != Protocol::None && !(entry.forward ? spec.builds() : spec.parses());
     });
     return found;
   } catch (const Error&) {
@@ -36,9 +39,7 @@ std::vector<const MessageClass*> candidates(const TraceEntry& entry, const std::
 
 std::vector<const MessageClass*> candidates(const TraceEntry& entry, const std::string& bits,
                                             const Registry& registry) {
-  constexpr int kStream0 = 20;
-  constexpr int kStream3 = 23;
-  if (entry.protocol < kStream0 || entry.protocol > kStream3) {
+  if (!is_stream_type(entry.protocol)) {
     return candidates(entry, std::to_string(entry.protocol), bits, registry);
   }
   // Which application a stream has, the trace does not tell.
@@ -47,10 +48,8 @@ std::vector<const MessageClass*> candidates(const TraceEntry& entry, const std::
 }
 
 std::string protocol_text(int type) {
-  for (const ProtocolInfo& info : protocols()) {
-    if (info.type == type) return std::string(info.name) + " (" + std::to_string(type) + ")";
-  }
-  return "protocol " + std::to_string(type);
+  const std::string name = protocol_name(type);
+  return name.empty() ? "protocol " + std::to_string(type) : name + " (" + std::to_string(type) + ")";
 }
 
 std::string seconds_text(std::chrono::milliseconds time) {
@@ -59,38 +58,38 @@ std::string seconds_text(std::chrono::milliseconds time) {
   return text;
 }
 
-}  // namespace
-
-LadderRung ladder_rung(const TraceEntry& entry, const Registry& registry, CarrierDissector carriers) {
+Rung rung_of(const TraceEntry& entry, const Registry& registry, const AttributeCatalogue& attributes) {
   if (entry.octets.empty()) return {"empty message", {}};
-  if (carriers != nullptr) {
-    if (auto rung = carriers(registry, entry.protocol, entry.octets)) return std::move(*rung);
-  }
-  if (auto carrier = carrier_message(entry.protocol, entry.octets)) return std::move(*carrier);
   const std::string bits = bits_of(entry.octets);
+  if (const NegotiationClass* carrier = carrier_of_records(bits)) {
+    return {std::string(carrier->spec().name), dissect(*carrier, bits, attributes, entry.protocol)};
+  }
   const auto found = candidates(entry, bits, registry);
   if (found.size() == 1) return {std::string(found.front()->info().name()), dissect(*found.front(), bits)};
-  LadderRung rung;
+  Rung rung;
   for (const MessageClass* message : found) {
     rung.name.append(rung.name.empty() ? "" : " or ").append(message->info().name());
   }
-  if (rung.name.empty()) rung.name = "message " + hex_text(std::span(entry.octets).first(1));
+  if (rung.name.empty()) rung.name = "message " + octets_text(std::span(entry.octets).first(1));
   return rung;
 }
 
-std::string ladder_text(std::span<const TraceEntry> entries, const Registry& registry, CarrierDissector carriers) {
+}  // namespace
+
+std::string ladder_text(std::span<const TraceEntry> entries, const Registry& registry) {
   constexpr std::string_view kIndent = "                 ";
   constexpr std::size_t kShown = 24;
+  const AttributeCatalogue attributes(registry);
   std::string text;
   for (const TraceEntry& entry : entries) {
-    const LadderRung rung = ladder_rung(entry, registry, carriers);
+    const Rung rung = rung_of(entry, registry, attributes);
     text.append(seconds_text(entry.time)).append(entry.forward ? "  AN --> AT  " : "  AN <-- AT  ").append(rung.name);
     text.append("  ").append(protocol_text(entry.protocol));
     if (!entry.label.empty()) text.append("  \"").append(entry.label).append("\"");
     text += '\n';
     if (!entry.note.empty()) text.append(kIndent).append("! ").append(entry.note).append("\n");
     const auto head = std::span(entry.octets).first(std::min(kShown, entry.octets.size()));
-    text.append(kIndent).append(hex_text(head));
+    text.append(kIndent).append(octets_text(head));
     if (head.size() < entry.octets.size()) {
       text.append(" ... (").append(std::to_string(entry.octets.size())).append(" octets)");
     }

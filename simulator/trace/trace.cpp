@@ -1,5 +1,7 @@
 #include "simulator/trace/trace.hpp"
 
+#include "common/octets.hpp"
+
 namespace vorlan::simulator {
 
 namespace {
@@ -39,7 +41,7 @@ std::string json_line(const TraceEntry& entry) {
   line.append(",\"direction\":").append(entry.forward ? "\"forward\"" : "\"reverse\"");
   line.append(",\"protocol\":").append(std::to_string(entry.protocol));
   line.append(",\"label\":").append(json_text(entry.label));
-  line.append(",\"octets\":").append(json_text(hex_text(entry.octets)));
+  line.append(",\"octets\":").append(json_text(octets_text(entry.octets)));
   if (!entry.note.empty()) line.append(",\"note\":").append(json_text(entry.note));
   return line + '}';
 }

@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "attributes/classes.hpp"
 #include "messages/classes.hpp"
 #include "simulator/trace/ladder.hpp"
 
@@ -25,12 +26,14 @@ constexpr BoundMember kMembers[] = {
     method<&T::clear>("Clear", "", "Drops all messages."),
 };
 
-/// The classes of all messages but those that carry attributes and keys, which the ladder knows itself.
-const Registry& message_registry() {
+/// The classes of all messages, and of the attributes that they carry.
+const Registry& known_classes() {
   static const ClassTable kTables[] = {
-      {"Vorlan", session_message_classes()}, {"Vorlan", connection_message_classes()},
-      {"Vorlan", mac_message_classes()},     {"Vorlan", application_message_classes()},
-      {"Vorlan", stream_message_classes()},  {"Vorlan", testapp_message_classes()},
+      {"Vorlan", security_message_classes()},    {"Vorlan", session_message_classes()},
+      {"Vorlan", connection_message_classes()},  {"Vorlan", mac_message_classes()},
+      {"Vorlan", application_message_classes()}, {"Vorlan", stream_message_classes()},
+      {"Vorlan", testapp_message_classes()},     {"Vorlan", simple_attribute_classes()},
+      {"Vorlan", complex_attribute_classes()},
   };
   static const Registry kRegistry(kTables);
   return kRegistry;
@@ -47,7 +50,7 @@ const TraceEntry& TraceObject::at(std::int16_t index) const {
 
 std::int32_t TraceObject::time(std::int16_t index) const { return static_cast<std::int32_t>(at(index).time.count()); }
 
-std::string TraceObject::ladder() const { return ladder_text(simulation_->trace.copy(), message_registry()); }
+std::string TraceObject::ladder() const { return ladder_text(simulation_->trace.copy(), known_classes()); }
 
 std::string TraceObject::json_lines() const {
   std::string lines;

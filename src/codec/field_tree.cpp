@@ -19,6 +19,12 @@ std::string plain_value(std::string_view bits) {
 
 constexpr std::size_t kBitsPerLine = 32;
 
+/// Whether a value is nothing but the digits of bits so many that digits and bits are better read side by side.
+bool is_long_hex(std::string_view value, std::size_t bits) noexcept {
+  constexpr std::size_t kReadableBits = 128;
+  return bits > kReadableBits && value.starts_with("0x") && value.size() == 2 + (bits + 3) / 4;
+}
+
 struct Line {
   std::string name;
   std::string first;
@@ -28,16 +34,23 @@ struct Line {
 
 void add_lines(std::span<const DissectedField> tree, std::size_t depth, std::vector<Line>& lines) {
   for (const DissectedField& field : tree) {
-    Line line{std::string(2 * depth, ' ') + field.name, std::to_string(field.first), {}, field.value};
-    if (!field.note.empty()) line.value += (line.value.empty() ? "(" : "  (") + field.note + ")";
     std::string_view bits = field.bits;
     // The first line takes what is over, so that the groups of the lines below are whole.
     const std::size_t over = bits.size() % kBitsPerLine;
     const std::size_t head = std::min(bits.size(), over == 0 ? kBitsPerLine : over);
-    line.bits = grouped_bits(bits.substr(0, head));
+    std::string_view value = field.value;
+    const bool beside = is_long_hex(value, bits.size());
+    const auto next_digits = [&](std::size_t count) {
+      const std::string_view digits = value.substr(0, count);
+      value.remove_prefix(digits.size());
+      return std::string(digits);
+    };
+    Line line{std::string(2 * depth, ' ') + field.name, std::to_string(field.first), grouped_bits(bits.substr(0, head)),
+              next_digits(beside ? 2 + (head + 3) / 4 : value.size())};
+    if (!field.note.empty()) line.value += (line.value.empty() ? "(" : "  (") + field.note + ")";
     lines.push_back(std::move(line));
     for (bits.remove_prefix(head); !bits.empty(); bits.remove_prefix(kBitsPerLine)) {
-      lines.push_back({{}, {}, grouped_bits(bits.substr(0, kBitsPerLine)), {}});
+      lines.push_back({{}, {}, grouped_bits(bits.substr(0, kBitsPerLine)), next_digits(beside ? kBitsPerLine / 4 : 0)});
     }
     add_lines(field.below, depth + 1, lines);
   }

@@ -26,7 +26,8 @@ struct DissectedField {
 DissectedField dissected_leaf(std::string_view name, const Meaning* meaning, std::string_view whole, Extent extent);
 
 /// One line per field: name, position of its first bit, its bits in groups of four, what they mean. Every line begins
-/// with the indent and ends with a newline; records have their fields indented below them.
+/// with the indent and ends with a newline; records have their fields indented below them. Bits go on in lines of 32,
+/// and beside them the digits of a long hexadecimal value.
 std::string field_tree_text(std::span<const DissectedField> tree, std::string_view indent = {});
 
 /// "10 0101": groups of four as hexadecimal digits have them, counted from the last bit.

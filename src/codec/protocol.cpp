@@ -1,10 +1,14 @@
 #include "codec/protocol.hpp"
 
+#include <charconv>
+
 namespace vorlan {
 
 namespace {
 
 constexpr ProtocolInfo kProtocols[] = {
+    {Protocol::PhysicalLayer, "physical-layer", "physical", 0x00},
+    {Protocol::ControlChannelMac, "control-channel-mac", "mac", 0x01},
     {Protocol::AccessChannelMac, "access-channel-mac", "mac", 0x02},
     {Protocol::ForwardTrafficChannelMac, "forward-traffic-channel-mac", "mac", 0x03},
     {Protocol::ReverseTrafficChannelMac, "reverse-traffic-channel-mac", "mac", 0x04},
@@ -12,6 +16,7 @@ constexpr ProtocolInfo kProtocols[] = {
     {Protocol::Authentication, "authentication", "security", 0x06},
     {Protocol::Encryption, "encryption", "security", 0x07},
     {Protocol::Security, "security", "security", 0x08},
+    {Protocol::PacketConsolidation, "packet-consolidation", "connection", 0x09},
     {Protocol::AirLinkManagement, "air-link-management", "connection", 0x0A},
     {Protocol::InitializationState, "initialization-state", "connection", 0x0B},
     {Protocol::IdleState, "idle-state", "connection", 0x0C},
@@ -32,5 +37,23 @@ constexpr ProtocolInfo kProtocols[] = {
 }  // namespace
 
 std::span<const ProtocolInfo> protocols() noexcept { return kProtocols; }
+
+std::string protocol_name(int type) {
+  if (is_stream_type(type)) return "stream-" + std::to_string(type - kStream0Type) + "-application";
+  for (const ProtocolInfo& info : kProtocols) {
+    if (info.type >= 0 && info.type == type) return std::string(info.name);
+  }
+  return {};
+}
+
+std::optional<int> parse_protocol_type(std::string_view text) noexcept {
+  const bool is_hex = text.starts_with("0x") || text.starts_with("0X");
+  const std::string_view digits = text.substr(is_hex ? 2 : 0);
+  const char* const end = digits.data() + digits.size();
+  unsigned type = 0;
+  const auto [read, fault] = std::from_chars(digits.data(), end, type, is_hex ? 16 : 10);
+  if (read != end || fault != std::errc() || type > 0xFF) return std::nullopt;
+  return static_cast<int>(type);
+}
 
 }  // namespace vorlan

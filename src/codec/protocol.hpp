@@ -2,13 +2,17 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace vorlan {
 
 enum class Protocol : std::uint8_t {
-  None,  ///< messages that several protocols share
+  None,           ///< messages that several protocols share
+  PhysicalLayer,  ///< no messages; attributes name it
+  ControlChannelMac,
   AccessChannelMac,
   ForwardTrafficChannelMac,
   ReverseTrafficChannelMac,
@@ -16,6 +20,7 @@ enum class Protocol : std::uint8_t {
   Authentication,  ///< this and the two below have no messages but those that propose attributes
   Encryption,
   Security,
+  PacketConsolidation,
   AirLinkManagement,
   InitializationState,
   IdleState,
@@ -42,5 +47,15 @@ struct ProtocolInfo {
 
 /// All protocols but None.
 std::span<const ProtocolInfo> protocols() noexcept;
+
+/// The protocol types of the streams' applications.
+inline constexpr int kStream0Type = 0x14;
+inline constexpr int kStream3Type = 0x17;
+constexpr bool is_stream_type(int type) noexcept { return type >= kStream0Type && type <= kStream3Type; }
+
+/// "session-management" of 16, "stream-0-application" of 20; the empty text for a type that no protocol has.
+std::string protocol_name(int type);
+/// A type number as a person types it, "16" or "0x10"; nothing for any other text, and above 255.
+std::optional<int> parse_protocol_type(std::string_view text) noexcept;
 
 }  // namespace vorlan

@@ -99,4 +99,10 @@ void unpack_bits(const std::uint8_t* octets, std::size_t bits, char* text) noexc
 
 #endif
 
+std::string bits_of(std::span<const std::uint8_t> octets) {
+  std::string bits(octets.size() * 8, '0');
+  unpack_bits(octets.data(), bits.size(), bits.data());
+  return bits;
+}
+
 }  // namespace vorlan

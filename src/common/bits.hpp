@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
+#include <string>
 #include <string_view>
 
 namespace vorlan {
@@ -16,6 +18,9 @@ void pack_bits(std::string_view bits, std::uint8_t* octets) noexcept;
 
 /// Writes `bits` characters; the low bits of a last partial octet are not read.
 void unpack_bits(const std::uint8_t* octets, std::size_t bits, char* text) noexcept;
+
+/// The bit string of all octets.
+std::string bits_of(std::span<const std::uint8_t> octets);
 
 namespace portable {
 // The same two without vector instructions, for other processors.

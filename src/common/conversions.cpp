@@ -8,6 +8,7 @@
 #include "automation/error.hpp"
 #include "automation/object.hpp"
 #include "common/bits.hpp"
+#include "common/octets.hpp"
 #include "common/swar.hpp"
 
 namespace vorlan {
@@ -75,12 +76,6 @@ std::string_view character_at(std::string_view text, std::size_t index) noexcept
   raise(source, description);
 }
 
-int hex_digit(char c) noexcept {
-  if (c >= '0' && c <= '9') return c - '0';
-  const char folded = static_cast<char>(c | 0x20);
-  return folded >= 'a' && folded <= 'f' ? folded - 'a' + 10 : -1;
-}
-
 char upper(char c) noexcept { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
 
 }  // namespace
@@ -110,7 +105,10 @@ std::int16_t bin_to_dec(std::string_view bits) {
     const unsigned digit = static_cast<unsigned char>(c) - unsigned{'0'};
     if (digit > 9) throw Error(ErrorNumber::TypeMismatch);
     sum = 2 * sum + digit;
-    if (sum > 0x7FFF) too_large = true, sum = 0;
+    if (sum > 0x7FFF) {
+      too_large = true;
+      sum = 0;  // the digits behind it are still checked
+    }
   }
   if (too_large) throw Error(ErrorNumber::Overflow);
   return static_cast<std::int16_t>(sum);
@@ -124,7 +122,10 @@ std::int32_t bin_to_long(std::string_view bits) {
     const unsigned digit = static_cast<unsigned char>(bits[i]) - unsigned{'0'};
     if (digit > 1) raise_invalid_character("SB_GeneralFunctions.BinToLong", bits, i, "binary");
     sum = 2 * sum + digit;
-    if (sum > kMaxLong) too_large = true, sum = 0;
+    if (sum > kMaxLong) {
+      too_large = true;
+      sum = 0;
+    }
   }
   if (too_large) throw Error(ErrorNumber::Overflow);
   return static_cast<std::int32_t>(sum);

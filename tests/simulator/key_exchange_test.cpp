@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "common/octets.hpp"
 #include "script.hpp"
 #include "simulator/security/diffie_hellman.hpp"
 
@@ -21,7 +22,7 @@ TEST(KeyExchange, TerminalRefusesBadMessages) {
   EXPECT_EQ(key->get("Length").to_integer(), 1024);
   EXPECT_EQ(script.ask(5, "00 2A 07 " + key->get("Hex").to_text(), 1), "");
   EXPECT_EQ(script.complaint(), "KeyRequest has no public key of the 768 bits agreed upon");
-  EXPECT_EQ(script.ask(5, "00 2A 07 " + simulator::hex_text(simulator::Octets(96, 0xFF)), 1), "");
+  EXPECT_EQ(script.ask(5, "00 2A 07 " + octets_text(simulator::Octets(96, 0xFF)), 1), "");
   EXPECT_EQ(script.complaint(), "the access network's public key is degenerate");
 }
 
@@ -61,10 +62,10 @@ TEST(KeyExchange, Arithmetic) {
     EXPECT_FALSE(simulator::is_degenerate(bits, highest)) << "p - 2";
     EXPECT_EQ(simulator::session_key(bits, highest, std::vector<std::uint8_t>{8}), small) << "(-2)^8";
   }
-  EXPECT_EQ(simulator::hex_text(simulator::sha1(parse_hex("61 62 63"))),
+  EXPECT_EQ(octets_text(simulator::sha1(parse_hex("61 62 63"))),
             "A9 99 3E 36 47 06 81 6A BA 3E 25 71 78 50 C2 6C 9C D0 D8 9D");
   // SHA-1 of 01 | 2A | 1234 | 0000000000056789.
-  EXPECT_EQ(simulator::hex_text(simulator::key_signature(parse_hex("01"), 0x2A, 0x1234, 0x56789)),
+  EXPECT_EQ(octets_text(simulator::key_signature(parse_hex("01"), 0x2A, 0x1234, 0x56789)),
             "E8 57 B5 59 0D 47 69 60 CE 02 1E E4 7A 05 97 A9 42 68 6A A6");
   EXPECT_EQ(simulator::long_time_stamp(0x50010, 0xFFF0), 0x4FFF0U) << "the low half has gone round";
   EXPECT_EQ(simulator::long_time_stamp(0x50010, 0x0010), 0x50010U);

@@ -34,22 +34,24 @@ TEST(Trace, Ladder) {
   Script script;
   script.send(18, "01", "ConfigStartMessage");
   script.terminal->call("Send", i16(14), "02 07");
+  script.terminal->call("Send", i16(14), "54 07");
   script.ask(21, "02 05 04 05 06", 3);
   script.send(5, "02 01 12 34 56 78", "Short");
   script.send(9, "77");
   const std::string ladder = script.trace->get("Ladder").to_text();
   const std::string_view lines[] = {
       "    0.000 s  AN --> AT  SB_Ses_MsgConfigurationStart  session-configuration (18)  \"ConfigStartMessage\"\n",
-      "    0.020 s  AN <-- AT  ConfigurationRequest  session-configuration (18)\n"
+      "    0.020 s  AN <-- AT  SB_MsgConfigurationRequest  session-configuration (18)\n"
       "                 ! no filter takes it\n"
       "                 50 00 06 00 05 00 01 00 00 08 10 01 00 02 00 02 00 03\n",
-      "ProtocolType 0x0005",
-      "00 01 00 00",
+      "SB_Ses_AttrProtocolType, key-exchange\n",
+      "0x0005\n",
       "    0.020 s  AN <-- AT  SB_Con_MsgTrafficChannelComplete  route-update (14)\n",
-      "    0.000 s  AN --> AT  SB_TAS_MsgFTAPStatsClearRequest  protocol 21  \"Request\"\n",
-      "    0.020 s  AN <-- AT  SB_TAS_MsgFTAPStatsClearResponse  protocol 21  \"Answer\"\n",
-      "    0.020 s  AN --> AT  ANKeyComplete  key-exchange (5)  \"Short\"\n",
-      "    0.020 s  AN --> AT  message 77  protocol 9  \"Message\"\n",
+      "    0.020 s  AN <-- AT  SB_App_MsgAttributeUpdateReject  route-update (14)\n",
+      "    0.000 s  AN --> AT  SB_TAS_MsgFTAPStatsClearRequest  stream-1-application (21)  \"Request\"\n",
+      "    0.020 s  AN <-- AT  SB_TAS_MsgFTAPStatsClearResponse  stream-1-application (21)  \"Answer\"\n",
+      "    0.020 s  AN --> AT  SB_Sec_MsgANKeyComplete  key-exchange (5)  \"Short\"\n",
+      "    0.020 s  AN --> AT  message 77  packet-consolidation (9)  \"Message\"\n",
   };
   for (const std::string_view line : lines) EXPECT_NE(ladder.find(line), std::string::npos) << line << "in\n" << ladder;
 }

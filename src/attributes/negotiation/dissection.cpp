@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "automation/error.hpp"
+#include "attributes/negotiation/configuration_messages.hpp"
 #include "codec/meanings.hpp"
+#include "codec/protocol.hpp"
 #include "platform/platform.hpp"
 
 namespace vorlan {
@@ -12,7 +13,8 @@ namespace {
 
 constexpr std::uint32_t kOctet = 8;
 
-/// The protocol types that a clause of C.S0024-A, where an attribute is defined, belongs to.
+/// The protocol types that a clause of C.S0024-A, where an attribute is defined, belongs to. A test sees that every
+/// attribute's clause stands here.
 struct ClauseTypes {
   std::string_view clause;
   int first;
@@ -26,39 +28,10 @@ constexpr ClauseTypes kClauseTypes[] = {
     {"400-C 2.8", 0x06, 0x06},
 };
 
-/// Attributes of the session configuration that no class is made for, and the protocols whose subtypes it proposes.
+/// Attributes of the session configuration that no class is made for.
 constexpr int kSessionConfiguration = 0x12;
 constexpr Code kSessionAttributes[] = {
     {0x0102, "SupportConfigurationLock"}, {0x0110, "PersonalityCount"}, {0x1001, "ATSupportedApplicationSubtypes"}};
-constexpr Code kProtocolTypes[] = {{0x00, "physical layer"},
-                                   {0x01, "control channel MAC"},
-                                   {0x02, "access channel MAC"},
-                                   {0x03, "forward traffic channel MAC"},
-                                   {0x04, "reverse traffic channel MAC"},
-                                   {0x05, "key exchange"},
-                                   {0x06, "authentication"},
-                                   {0x07, "encryption"},
-                                   {0x08, "security"},
-                                   {0x09, "packet consolidation"},
-                                   {0x0A, "air-link management"},
-                                   {0x0B, "initialization state"},
-                                   {0x0C, "idle state"},
-                                   {0x0D, "connected state"},
-                                   {0x0E, "route update"},
-                                   {0x0F, "overhead messages"},
-                                   {0x10, "session management"},
-                                   {0x11, "address management"},
-                                   {0x12, "session configuration"},
-                                   {0x13, "stream"},
-                                   {0x14, "stream 0 application"},
-                                   {0x15, "stream 1 application"},
-                                   {0x16, "stream 2 application"},
-                                   {0x17, "stream 3 application"}};
-
-std::string_view name_of(std::span<const Code> codes, std::size_t value) {
-  const auto found = std::find_if(codes.begin(), codes.end(), [&](const Code& code) { return code.value == value; });
-  return found == codes.end() ? std::string_view{} : found->text;
-}
 
 bool belongs_to(const Attribute& attribute, int protocol_type) {
   const std::string_view clause = attribute.class_info()->clause();
@@ -77,7 +50,9 @@ DissectedField dissect_record(std::string_view bits, Extent place, bool names_ac
   DissectedField node{.name = "Unknown attribute", .first = place.offset + std::size_t{1}};
   const std::size_t id = small_value(slice(bits, {place.offset + kOctet, 2 * kOctet}));
   if (candidates.empty()) {
-    if (const std::string_view name = name_of(kSessionAttributes, id); of_session && !name.empty()) node.name = name;
+    for (const Code& attribute : kSessionAttributes) {
+      if (of_session && attribute.value == id) node.name = attribute.text;
+    }
     node.below = {dissected_leaf("Length", &kOctets, bits, {place.offset, kOctet}),
                   dissected_leaf("Octets", &kHex, bits, {place.offset + kOctet, place.width - kOctet})};
     return node;
@@ -85,7 +60,8 @@ DissectedField dissect_record(std::string_view bits, Extent place, bool names_ac
   const auto& [attribute, id_bits] = candidates.front();
   node.name = attribute_name(attribute->class_info()->name());
   node.value = attribute->class_info()->name();
-  if (const std::string_view name = name_of(kProtocolTypes, id); of_session && !name.empty()) {
+  // Of the session's ProtocolType the AttributeID is the protocol whose subtype is proposed.
+  if (const std::string name = protocol_name(static_cast<int>(id)); of_session && !name.empty()) {
     node.value.append(", ").append(name);
   }
   for (const auto& other : candidates.subspan(1)) {
@@ -135,6 +111,15 @@ std::vector<AttributeCatalogue::Candidate> AttributeCatalogue::candidates(std::s
     }
   }
   return taken.empty() ? refused : taken;
+}
+
+const NegotiationClass* carrier_of_records(std::string_view bits) {
+  for (const NegotiationClass* carrier :
+       {&SB_MsgConfigurationRequest::shared_class(), &SB_MsgConfigurationResponse::shared_class(),
+        &SB_MsgAttributeUpdateRequest::shared_class()}) {
+    if (bits.starts_with(carrier->spec().id)) return carrier;
+  }
+  return nullptr;
 }
 
 std::vector<DissectedField> dissect(const NegotiationClass& message, std::string_view bits,

@@ -31,6 +31,10 @@ class AttributeCatalogue {
   std::vector<Ref<Attribute>> attributes_;
 };
 
+/// The class of a message that carries attribute records, by its MessageID, which is the same in all protocols; null if
+/// it is another message.
+const NegotiationClass* carrier_of_records(std::string_view bits);
+
 /// MessageID, TransactionID and attribute records. `protocol_type` is the number of the protocol over which the message
 /// travels: it decides what an AttributeID means.
 std::vector<DissectedField> dissect(const NegotiationClass& message, std::string_view bits,

@@ -191,8 +191,11 @@ std::vector<ErrorInfo> NegotiationClass::list_errors() const {
     }
   }
   for (const AttributeGetter& getter : spec_.getters) {
-    errors.push_back({source(getter), failed_without_message(getter), std::string(kTooEarly)});
-    if (spec_.refuses_missing) errors.push_back({source(getter), failed(getter), "get of a record that is not there"});
+    const auto add = [&](std::string text, std::string_view when) {
+      errors.push_back({source(getter), std::move(text), when_of(getter.name, source(getter), when)});
+    };
+    add(failed_without_message(getter), kTooEarly);
+    if (spec_.refuses_missing) add(failed(getter), "get of a record that is not there");
   }
   return errors;
 }

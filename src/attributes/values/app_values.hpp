@@ -105,7 +105,7 @@ inline constexpr RecordField kFlowNNIdentificationFields[] = {
      .only = if_one("PRstr_Active"),
      .summary = "Width of the RLP identifier, bits."},
     {.name = "PRstr_RLPID",
-     .width = bits_of("PRstr_RLPIDLength"),
+     .width = as_many_bits_as("PRstr_RLPIDLength"),
      .only = if_one("PRstr_Active"),
      .summary = "The RLP identifier."},
 };

@@ -165,7 +165,7 @@ inline constexpr RecordField kValAssociatedFlowsNNFields[] = {
     {.name = "PRstr_Active", .bits = 8, .sent = false, .summary = "Kept; not sent."},
     {.name = "PRstr_SequenceLength", .bits = 8, .sent = false, .summary = "Kept; not sent."},
     {.name = "PRstr_RLPIDLength", .bits = 8, .sent = false, .meaning = nullptr, .summary = "Kept; not sent."},
-    {.name = "PRstr_RLPID", .width = bits_of("PRstr_RLPIDLength"), .sent = false, .summary = "Kept; not sent."},
+    {.name = "PRstr_RLPID", .width = as_many_bits_as("PRstr_RLPIDLength"), .sent = false, .summary = "Kept; not sent."},
 };
 inline constexpr ValueSpec kValAssociatedFlowsNN{.name = "SB_MAC_ValAssociatedFlowsNN",
                                                  .summary = "A value of AssociatedFlowsNN",

@@ -72,13 +72,14 @@ inline constexpr RecordField kPowerParametersFields[] = {
     fixed(sized<"PRstr_T2PHiCapPostTransition", Row>(), 8, Row.hi_cap, &kQuarterDb, "High capacity, after."),
 };
 template <const PowerParametersRow& Row>
-inline constexpr ValueSpec kValPowerParametersOf{.name = sized<"SB_Mac_ValPowerParameters", Row>(),
-                                                 .summary = "A value of the PowerParameters of a payload size",
-                                                 .clause = "10.11.7",
-                                                 .fields = kPowerParametersFields<Row>,
-                                                 .texts = RecordTexts::WithError,
-                                                 .set_operation = sized<"SetPowerParameters", Row>(),
-                                                 .builds_id_alone = true};
+inline constexpr ValueSpec kValPowerParametersOf{
+    .name = sized<"SB_Mac_ValPowerParameters", Row>(),
+    .summary = sized<"A value of the PowerParameters of payload size ", Row>(),
+    .clause = "10.11.7",
+    .fields = kPowerParametersFields<Row>,
+    .texts = RecordTexts::WithError,
+    .set_operation = sized<"SetPowerParameters", Row>(),
+    .builds_id_alone = true};
 
 using SB_Mac_ValPowerParameters128 = ValueOf<kValPowerParametersOf<kPowerParameters128>>;
 using SB_Mac_ValPowerParameters256 = ValueOf<kValPowerParametersOf<kPowerParameters256>>;

@@ -10,7 +10,7 @@ constexpr std::uint32_t kOctet = 8;
 
 std::string bracketed(std::size_t index) { return "[" + std::to_string(index) + "]"; }
 
-constexpr std::uint32_t bits_of(std::span<const RecordField> fields, bool verbose) {
+constexpr std::uint32_t set_bits(std::span<const RecordField> fields, bool verbose) {
   std::uint32_t bits = 0;
   for (const RecordField& field : fields) {
     const bool there = field.only.kind == OnlyIf::Kind::Always || (field.only.kind == OnlyIf::Kind::One) == verbose;
@@ -18,9 +18,9 @@ constexpr std::uint32_t bits_of(std::span<const RecordField> fields, bool verbos
   }
   return bits;
 }
-constexpr std::uint32_t kTerse = bits_of(kQoSSetFields, false);
-constexpr std::uint32_t kVerbose = bits_of(kQoSSetFields, true);
-constexpr std::uint32_t kWithPacketSize = bits_of(kQoSSetWithPacketSizeFields, true);
+constexpr std::uint32_t kTerse = set_bits(kQoSSetFields, false);
+constexpr std::uint32_t kVerbose = set_bits(kQoSSetFields, true);
+constexpr std::uint32_t kWithPacketSize = set_bits(kQoSSetWithPacketSizeFields, true);
 
 /// The attribute set at a place, up to the octet in which it ends. `whole` ends with the profile.
 DissectedField dissect_set(std::string_view whole, std::uint32_t at, std::uint32_t profile_start) {

@@ -118,8 +118,10 @@ std::size_t Record::width(std::size_t field, std::size_t index) const noexcept {
   switch (row.spec->width.kind) {
     case RecordWidth::Kind::OctetsOf: return 8 * number();
     case RecordWidth::Kind::BitsOf: return number();
-    default: return row.spec->bits;
+    case RecordWidth::Kind::Fixed:
+    case RecordWidth::Kind::ToOctet: break;  // what fills an octet up is never set
   }
+  return row.spec->bits;
 }
 
 void Record::check(std::size_t field, At at, std::string_view value) const {

@@ -95,7 +95,8 @@ class RecordClass {
 std::string element_name(std::string_view pattern, At at);
 
 /// The one walk over a record's rows: building goes over stored values, taking apart over received bits; which fields
-/// are there, how often and how wide is decided here for both. A side gives
+/// are there, how often and how wide is decided here for both. (Record::width tells the width of a single field before
+/// it is set.) A side gives
 ///   std::string_view value(std::size_t field, std::size_t index): the value of an earlier field
 ///   std::size_t position(): bits so far
 ///   bool done(): nothing is left to be repeated

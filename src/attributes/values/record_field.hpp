@@ -32,7 +32,7 @@ struct RecordWidth {
 /// 8 bits for each unit of an earlier field's value.
 constexpr RecordWidth octets_of(std::string_view field) { return {RecordWidth::Kind::OctetsOf, field}; }
 /// As many bits as an earlier field's value.
-constexpr RecordWidth bits_of(std::string_view field) { return {RecordWidth::Kind::BitsOf, field}; }
+constexpr RecordWidth as_many_bits_as(std::string_view field) { return {RecordWidth::Kind::BitsOf, field}; }
 /// What the record lacks to a whole octet.
 constexpr RecordWidth to_octet() { return {RecordWidth::Kind::ToOctet}; }
 

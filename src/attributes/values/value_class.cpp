@@ -96,60 +96,43 @@ void ValueClass::add_elements(std::size_t field) {
        .summary = std::string(row.summary)});
 }
 
-std::vector<MemberInfo> ValueClass::list_members() {
-  add(Action::ValueString, 0, {},
-      {.name = "PRstr_ValString",
-       .gets = true,
-       .lets = true,
-       .type = ValueType::String,
-       .summary = "A received value record. Once there is one, the getters of fields read from it."});
-  if (spec_.has_flag) {
-    add(Action::ReceivedFlag, 0, {},
-        {.name = "PRbln_ValFlag",
+void ValueClass::add_field(std::size_t field) {
+  const RecordField& row = *record_.field(field).spec;
+  MemberInfo member{.name = row.name,
+                    .gets = true,
+                    .lets = row.settable,
+                    .type = ValueType::String,
+                    .summary = std::string(row.summary)};
+  if (is_list(row)) member.parameters.push_back({.name = "Index", .type = ValueType::Integer, .optional = true});
+  if (is_table(row)) member.parameters.push_back({.name = "Column", .type = ValueType::Integer, .optional = true});
+  if (row.settable && !is_list(row)) settable_.push_back({Action::Field, static_cast<std::uint16_t>(field)});
+  add(Action::Field, field, {}, std::move(member));
+  if (spec_.has_flow_number && row.name == "PRstr_FlowNN") {
+    add(Action::FlowNumber, field, {},
+        {.name = "PRint_FlowNN",
          .gets = true,
          .lets = true,
-         .type = ValueType::Boolean,
-         .summary = "Whether the getters of fields read from the received value record."});
+         .type = ValueType::Integer,
+         .summary = "The flow as a number."});
   }
-  for (std::size_t i = 0; i < record_.fields().size(); ++i) {
-    const RecordField& row = *record_.field(i).spec;
-    if (is_list(row) && !is_property(row)) {
-      add_elements(i);
-      continue;
-    }
-    if (!is_property(row)) continue;
-    MemberInfo member{.name = row.name,
-                      .gets = true,
-                      .lets = row.settable,
-                      .type = ValueType::String,
-                      .summary = std::string(row.summary)};
-    if (is_list(row)) member.parameters.push_back({.name = "Index", .type = ValueType::Integer, .optional = true});
-    if (is_table(row)) member.parameters.push_back({.name = "Column", .type = ValueType::Integer, .optional = true});
-    if (row.settable && !is_list(row)) settable_.push_back({Action::Field, static_cast<std::uint16_t>(i)});
-    add(Action::Field, i, {}, std::move(member));
-    if (spec_.has_flow_number && row.name == "PRstr_FlowNN") {
-      add(Action::FlowNumber, i, {},
-          {.name = "PRint_FlowNN",
-           .gets = true,
-           .lets = true,
-           .type = ValueType::Integer,
-           .summary = "The flow as a number."});
-    }
+}
+
+void ValueClass::add_set_operation() {
+  MemberInfo set{.name = spec_.set_operation,
+                 .calls = true,
+                 .type = ValueType::Empty,
+                 .summary = "Sets all fields at once; an empty text leaves its field as it is."};
+  for (const Member& member : settable_) {
+    const RecordField& row = *record_.field(member.field).spec;
+    const std::string name =
+        member.action == Action::Element ? element_name(row.repeat.elements, member.at) : std::string(row.name);
+    set.parameters.push_back(
+        {.name = names_.emplace_back(name.substr(name.find('_') + 1)), .type = ValueType::String, .optional = true});
   }
-  if (!spec_.set_operation.empty()) {
-    MemberInfo set{.name = spec_.set_operation,
-                   .calls = true,
-                   .type = ValueType::Empty,
-                   .summary = "Sets all fields at once; an empty text leaves its field as it is."};
-    for (const Member& member : settable_) {
-      const RecordField& row = *record_.field(member.field).spec;
-      const std::string name =
-          member.action == Action::Element ? element_name(row.repeat.elements, member.at) : std::string(row.name);
-      set.parameters.push_back(
-          {.name = names_.emplace_back(name.substr(name.find('_') + 1)), .type = ValueType::String, .optional = true});
-    }
-    add(Action::SetFields, 0, {}, std::move(set));
-  }
+  add(Action::SetFields, 0, {}, std::move(set));
+}
+
+void ValueClass::add_methods() {
   MemberInfo build{.name = "BuildValueRecord",
                    .calls = true,
                    .type = ValueType::String,
@@ -179,6 +162,33 @@ std::vector<MemberInfo> ValueClass::list_members() {
     add(Action::Operation, i, {},
         {.name = operation.name, .calls = true, .type = ValueType::Empty, .summary = std::string(operation.summary)});
   }
+}
+
+std::vector<MemberInfo> ValueClass::list_members() {
+  add(Action::ValueString, 0, {},
+      {.name = "PRstr_ValString",
+       .gets = true,
+       .lets = true,
+       .type = ValueType::String,
+       .summary = "A received value record. Once there is one, the getters of fields read from it."});
+  if (spec_.has_flag) {
+    add(Action::ReceivedFlag, 0, {},
+        {.name = "PRbln_ValFlag",
+         .gets = true,
+         .lets = true,
+         .type = ValueType::Boolean,
+         .summary = "Whether the getters of fields read from the received value record."});
+  }
+  for (std::size_t i = 0; i < record_.fields().size(); ++i) {
+    const RecordField& row = *record_.field(i).spec;
+    if (is_property(row)) {
+      add_field(i);
+    } else if (is_list(row)) {
+      add_elements(i);
+    }
+  }
+  if (!spec_.set_operation.empty()) add_set_operation();
+  add_methods();
   return std::exchange(listed_, {});
 }
 

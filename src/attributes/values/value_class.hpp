@@ -56,6 +56,9 @@ class ValueClass {
  private:
   void add(Action action, std::size_t field, At at, MemberInfo member);
   void add_elements(std::size_t field);
+  void add_field(std::size_t field);
+  void add_set_operation();
+  void add_methods();
   [[nodiscard]] std::vector<MemberInfo> list_members();
   [[nodiscard]] std::vector<ErrorInfo> list_errors() const;
 
