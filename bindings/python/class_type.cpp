@@ -13,7 +13,8 @@ namespace {
 
 Member::Kind kind_of(const MemberInfo& member) {
   if (member.is_method()) return Member::Kind::Method;
-  return member.parameters.empty() ? Member::Kind::Property : Member::Kind::Indexed;
+  if (member.parameters.empty()) return Member::Kind::Property;
+  return member.required_parameters() == 0 ? Member::Kind::Optional : Member::Kind::Indexed;
 }
 
 std::vector<Member> members_of(const ClassInfo& info) {
@@ -85,7 +86,7 @@ void ClassType::add_members() {
     }
     py::object get = py::none();
     py::object set = py::none();
-    if (info.gets || member.kind == Member::Kind::Indexed) get = getter(name);
+    if (info.gets || member.kind != Member::Kind::Property) get = getter(name);
     if (info.lets || info.sets) {
       set = py::cpp_function(
           [name](const py::object& self, const py::object& value) { py::setattr(self, name, value); }, py::name("set"));

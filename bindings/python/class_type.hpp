@@ -12,7 +12,8 @@ namespace vorlan::python {
 
 /// A member as Python sees it.
 struct Member {
-  enum class Kind : std::uint8_t { Property, Indexed, Method };
+  /// Optional: a property with indices that may all be left out; Indexed: at least one is needed.
+  enum class Kind : std::uint8_t { Property, Optional, Indexed, Method };
   const MemberInfo* info;
   Kind kind;
 };

@@ -6,21 +6,13 @@
 #include <cstddef>
 
 #include "errors.hpp"
+#include "handle_value.hpp"
 #include "listing.hpp"
 #include "object_type.hpp"
 
 namespace vorlan::python {
 
 namespace {
-
-struct Handle {
-  PyObject_HEAD PyObject* self;  ///< a Wrapper; null: the member of a class
-  const ClassType* cls;
-  const Member* member;
-  vectorcallfunc call;
-};
-
-Handle& as_handle(PyObject* object) noexcept { return *reinterpret_cast<Handle*>(object); }
 
 PyObject* to_python(std::string_view text) noexcept {
   return PyUnicode_FromStringAndSize(text.data(), static_cast<Py_ssize_t>(text.size()));
@@ -84,15 +76,19 @@ PyObject* bind(PyObject* object, PyObject* instance, PyObject*) noexcept {
   return make_handle(*handle.cls, *handle.member, instance);
 }
 
-std::string qualified_name(const Handle& handle) {
-  return std::string(handle.cls->info().name()) + "." + std::string(handle.member->info->name);
-}
-
 PyObject* represent_handle(PyObject* object) noexcept {
   const Handle& handle = as_handle(object);
-  return guarded(handle.cls->state(), [&] {
-    const bool method = handle.member->kind == Member::Kind::Method;
-    return to_python((method ? "<method " : "<indexed property ") + qualified_name(handle) + ">");
+  State& state = handle.cls->state();
+  return guarded(state, [&] {
+    const Member& member = *handle.member;
+    const bool method = member.kind == Member::Kind::Method;
+    const std::string text = (method ? "<method " : "<indexed property ") + qualified_name(handle);
+    if (member.kind != Member::Kind::Optional || member.info->get_changes) return to_python(text + ">");
+    const auto value = py::reinterpret_steal<py::object>(read_handle(object));
+    if (value) return py::str("{} = {!r}>").format(text, value).release().ptr();
+    if (PyErr_ExceptionMatches(state.automation_error) == 0) throw py::error_already_set();
+    PyErr_Clear();
+    return to_python(text + ">");
   });
 }
 
@@ -126,9 +122,22 @@ std::array kMembers{
 
 }  // namespace
 
+std::string qualified_name(const Handle& handle) {
+  return std::string(handle.cls->info().name()) + "." + std::string(handle.member->info->name);
+}
+
+PyObject* read_handle(PyObject* handle) noexcept { return call_handle(handle, nullptr, 0, nullptr); }
+
+Value value_of_handle(PyObject* object) {
+  const Handle& handle = as_handle(object);
+  return as_wrapper(handle.self).object->invoke(handle.member->info->name, Access::Get, {});
+}
+
 PyObject* make_handle(const ClassType& cls, const Member& member, PyObject* self) noexcept {
   const State& state = cls.state();
-  PyTypeObject* type = member.kind == Member::Kind::Method ? state.method_type : state.indexed_type;
+  PyTypeObject* type = member.kind == Member::Kind::Method    ? state.method_type
+                       : member.kind == Member::Kind::Indexed ? state.indexed_type
+                                                              : state.optional_type;
   auto* made = reinterpret_cast<Handle*>(type->tp_alloc(type, 0));
   if (made == nullptr) return nullptr;
   made->self = Py_XNewRef(self);
@@ -139,7 +148,7 @@ PyObject* make_handle(const ClassType& cls, const Member& member, PyObject* self
 }
 
 void add_member_types(State& state) {
-  const auto make = [](const char* name, std::span<const PyType_Slot> own) {
+  const auto make = [](const char* name, std::span<const PyType_Slot> own, std::span<const PyType_Slot> value = {}) {
     std::vector<PyType_Slot> slots{
         {Py_tp_dealloc, reinterpret_cast<void*>(&deallocate_handle)},
         {Py_tp_repr, reinterpret_cast<void*>(&represent_handle)},
@@ -148,6 +157,7 @@ void add_member_types(State& state) {
         {Py_tp_members, kMembers.data()},
     };
     slots.insert(slots.end(), own.begin(), own.end());
+    slots.insert(slots.end(), value.begin(), value.end());
     slots.push_back({0, nullptr});
     PyType_Spec spec{name, sizeof(Handle), 0,
                      Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_VECTORCALL | Py_TPFLAGS_DISALLOW_INSTANTIATION, slots.data()};
@@ -159,7 +169,8 @@ void add_member_types(State& state) {
   const std::array indexed{PyType_Slot{Py_mp_subscript, reinterpret_cast<void*>(&get_item)},
                            PyType_Slot{Py_mp_ass_subscript, reinterpret_cast<void*>(&set_item)}};
   state.method_type = make("vorlan.Method", method);
-  state.indexed_type = make("vorlan.IndexedProperty", indexed);
+  state.indexed_type = make("vorlan.IndexedProperty", indexed, slots_of_needed_index());
+  state.optional_type = make("vorlan.OptionallyIndexedProperty", indexed, slots_of_optional_index());
 }
 
 }  // namespace vorlan::python

@@ -13,19 +13,20 @@ namespace vorlan::python {
 namespace {
 
 constexpr const char* kText =
-    "Conformance testing of 1xEV-DO access terminals: classes for air-interface messages, configuration attributes "
-    "and\n"
-    "control of the emulated sector.\n\n"
-    "    m = vorlan.CreateObject(\"Vorlan.SB_Ses_MsgUATIAssignment\")  # or vorlan.SB_Ses_MsgUATIAssignment()\n"
-    "    m.PRstr_MessageSequence = \"00000001\"\n\n"
-    "Fields are bit strings. Indexed properties take subscripts. None is Nothing, vorlan.Null is Null, an argument "
-    "that\n"
-    "is left out (or vorlan.Empty) is Empty. Errors are vorlan.AutomationError.\n\n"
-    "Any object can be handed in: its attributes, methods and subscripts are its members. The library holds it as "
-    "long\n"
-    "as it needs it. A cycle that goes through an object of the library is not found by the garbage collector: set "
-    "one\n"
-    "of its references to None.";
+    R"(Conformance testing of 1xEV-DO access terminals: classes for air-interface messages, configuration attributes and
+control of the emulated sector.
+
+    m = vorlan.CreateObject("Vorlan.SB_Ses_MsgUATIAssignment")  # or vorlan.SB_Ses_MsgUATIAssignment()
+    m.PRstr_MessageSequence = "00000001"
+
+Fields are bit strings. Indexed properties take subscripts: p.X[1] = "0". Where every index may be left out, p.X is the
+value itself in a condition, a comparison, a text, a number, and as an argument; p.X() is the plain value anywhere.
+None is Nothing, vorlan.Null is Null, an argument that is left out (or vorlan.Empty) is Empty. Errors are
+vorlan.AutomationError.
+
+Any object can be handed in: its attributes, methods and subscripts are its members. The library holds it as long as it
+needs it. A cycle that goes through an object of the library is not found by the garbage collector: set one of its
+references to None.)";
 
 struct NullType {};
 struct EmptyType {};

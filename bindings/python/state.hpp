@@ -23,7 +23,8 @@ struct State {
 
   PyTypeObject* object_type = nullptr;  ///< base of every class of the registry
   PyTypeObject* method_type = nullptr;
-  PyTypeObject* indexed_type = nullptr;  ///< an indexed property, waiting for its subscript
+  PyTypeObject* indexed_type = nullptr;   ///< an indexed property, waiting for its subscript
+  PyTypeObject* optional_type = nullptr;  ///< the same, but a value without one, too
   PyTypeObject* by_ref_type = nullptr;
   PyObject* automation_error = nullptr;
   PyObject* member_not_found_error = nullptr;

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "errors.hpp"
+#include "member_handle.hpp"
 #include "object_type.hpp"
 #include "python_object.hpp"
 
@@ -130,6 +131,7 @@ Value to_value(State& state, PyObject* object) {
   if (object == state.empty) return {};
   if (PyObject_TypeCheck(object, state.object_type)) return Ref<Object>(as_wrapper(object).object);
   if (Py_TYPE(object) == state.by_ref_type) return referenced(state, object);
+  if (Py_TYPE(object) == state.optional_type) return value_of_handle(object);
   if (PyList_Check(object) || PyTuple_Check(object)) return to_array(state, object);
   import_datetime();
   if (PyDate_Check(object)) return to_date(object);

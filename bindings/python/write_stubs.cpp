@@ -13,6 +13,7 @@ from typing import Any, Final, Generic, Literal, TypeVar, final, overload
 
 _Index = TypeVar("_Index")
 _Value = TypeVar("_Value")
+_Read = TypeVar("_Read", covariant=True)
 
 __version__: str
 
@@ -40,33 +41,62 @@ class ByRef:
 class Object:
     """Base of all classes of the library."""
 
-class _ReadOnlyIndexedProperty(Generic[_Index, _Value]):
-    def __getitem__(self, index: _Index) -> _Value: ...
-    def __call__(self, *index: Any) -> _Value: ...
+class _ReadOnlyIndexedProperty(Generic[_Index, _Read]):
+    def __getitem__(self, index: _Index) -> _Read: ...
+    def __call__(self, *index: Any) -> _Read: ...
 
 class _IndexedProperty(_ReadOnlyIndexedProperty[_Index, _Value]):
-    def __setitem__(self, index: _Index, value: _Value) -> None: ...
+    def __setitem__(self, index: _Index, value: _Value | _Held[_Value]) -> None: ...
+
+class _Held(Generic[_Read]):
+    """A property whose indices may all be left out: the value itself where Python asks for one."""
+    def __call__(self, *index: Any) -> _Read: ...
+    def __bool__(self) -> bool: ...
+    def __int__(self) -> int: ...
+    def __float__(self) -> float: ...
+    def __index__(self) -> int: ...
+    def __format__(self, specification: str) -> str: ...
+    def __hash__(self) -> int: ...
+    def __eq__(self, other: object) -> bool: ...
+    def __lt__(self, other: Any) -> bool: ...
+    def __le__(self, other: Any) -> bool: ...
+    def __gt__(self, other: Any) -> bool: ...
+    def __ge__(self, other: Any) -> bool: ...
+
+class _ReadOnlyHeldProperty(_Held[_Read], _ReadOnlyIndexedProperty[_Index, _Read], Generic[_Index, _Read]): ...
+class _HeldProperty(_Held[_Value], _IndexedProperty[_Index, _Value], Generic[_Index, _Value]): ...
+
+class _AssignableProperty(Generic[_Index, _Value]):
+    @overload
+    def __get__(self, instance: None, owner: type) -> property: ...
+    @overload
+    def __get__(self, instance: Object, owner: type) -> _HeldProperty[_Index, _Value]: ...
+    def __set__(self, instance: Object, value: _Value | _Held[_Value]) -> None: ...
 
 def classes() -> list[str]:
     """The names of all classes."""
 )";
 
 std::string argument_type(const ParameterInfo& parameter) {
-  std::string text(python_type(parameter.type));
-  if (text == "Any") return text;
+  std::string type(python_type(parameter.type));
+  if (type == "Any") return type;
+  std::string text = type + " | _Held[" + type + "]";
   if (parameter.by_reference) text += " | ByRef";
   if (parameter.optional) text += " | EmptyType";
   return text;
 }
 
+/// "int | tuple[int, str]" where the second index may be left out.
 std::string index_type(const MemberInfo& member) {
   const auto& parameters = member.parameters;
-  if (parameters.size() == 1) return std::string(python_type(parameters[0].type));
-  std::string text = "tuple[";
-  for (const ParameterInfo& parameter : parameters) {
-    text.append(text.back() == '[' ? "" : ", ").append(python_type(parameter.type));
+  std::string text;
+  std::string types;
+  for (std::size_t count = 1; count <= parameters.size(); ++count) {
+    types.append(count == 1 ? "" : ", ").append(python_type(parameters[count - 1].type));
+    if (count < member.required_parameters()) continue;
+    text.append(text.empty() ? "" : " | ").append(count == 1 ? types : "tuple[" + types + "]");
   }
-  return text + "]";
+  return text;
 }
 
 /// A docstring that is one line of Python.
@@ -95,7 +125,14 @@ void write_property(std::ostream& out, const MemberInfo& member) {
     out << "    @property\n    def " << member.name << "(self) -> " << result << ":\n" << indented_text;
   };
   if (!member.parameters.empty()) {
-    define((writable ? "_IndexedProperty[" : "_ReadOnlyIndexedProperty[") + index_type(member) + ", " + type + "]");
+    const bool held = member.required_parameters() == 0;
+    const std::string types = "Property[" + index_type(member) + ", " + type + "]";
+    if (held && writable) {
+      // A property's setter takes what its getter gives; a descriptor's may take another type.
+      out << "    " << member.name << ": _Assignable" << types << "\n    " << docstring(member.summary) << "\n";
+    } else {
+      define(std::string(writable ? "_" : "_ReadOnly").append(held ? "Held" : "Indexed") + types);
+    }
     return;
   }
   define(type);

@@ -21,7 +21,8 @@ def test_every_class_and_member_is_listed_everywhere():
     for name in names:
         cls = getattr(vorlan, name)
         members = {member for member in vars(cls) if not member.startswith("__")}
-        assert members and members == {node.name for node in stubs[name].body if isinstance(node, ast.FunctionDef)}, name
+        listed = [node for node in stubs[name].body if not isinstance(node, ast.Expr)]
+        assert members and members == {getattr(node, "name", None) or node.target.id for node in listed}, name
         assert type(vorlan.CreateObject(name)) is cls and members <= set(dir(cls()))
         assert cls.__doc__
         for member in members:
@@ -50,6 +51,16 @@ close.PRstr_CloseReason = "00000000"
 length: int = vorlan.MessageObject().Octet[0] + vorlan.MessageObject().Length
 vorlan.SB_GeneralFunctions().LongToBin(vorlan.ByRef(5), 8).startswith("0")
 other = vorlan.CreateObject("".join(("SB_", "Other"))).anything
+held = vorlan.SB_GlobalParameters()
+held.PRint_SecurityType = held.PRint_KeyXChangeType = 1
+held.PRint_MACIndex = held.PRint_SecurityType
+length = held.PRint_MACIndex() + held.PRint_MACIndex["SECTOR 1"] + int(held.PRdbl_CCDataRate)
+vorlan.SB_GeneralFunctions().LongToBin(held.PRint_MACIndex, 8)
+faded: bool = held.PRint_MACIndex == 5 or held.PRdbl_CCDataRate < length
+vorlan.SB_MsgConfigurationRequest().PRobj_AttrFlowNNReservationFwd[0].Anything
+held.PRint_SecurityType = "1"  # wrong
+length = held.PRint_MACIndex  # wrong
+faded = vorlan.MessageObject().Octet == 5  # wrong
 close.PRstr_CloseReason = 5  # wrong
 close.PRstr_CloseReasons  # wrong
 close.PRstr_MessageID = "00000000"  # wrong

@@ -22,16 +22,6 @@ def test_objects_show_what_they_are():
     assert any("CloseReason" in line and "protocol configuration failure" in line for line in lines)
 
 
-def test_indexed_properties_in_all_their_forms():
-    message = vorlan.MessageObject()
-    message.Octet[3] = 240
-    assert message.octet[3] == message.Octet(3) == 240
-    reject = vorlan.SB_App_MsgReservationReject()
-    reject.PRstr_ReservationCount = "00000001"
-    reject.PRstr_Link = "1"  # The index may be left out.
-    assert reject.PRstr_Link() == reject.PRstr_Link[0] == "1"
-
-
 @pytest.mark.parametrize("value, becomes", [
     (5, 5), (-40000, -40000), (2**40, 2.0**40), (1.25, 1.25), (True, True), ("text\0 äß \udcff", "text\0 äß \udcff"),
     (None, None), (vorlan.Null, vorlan.Null), (vorlan.Empty, None), (functions, functions), (pytest, pytest),

@@ -145,3 +145,18 @@ def test_an_object_of_the_library_is_itself_within_a_script_s_object():
     script.assignment(script.Configuration(), Forwarding())
     assert bytes.fromhex(inner.Hex) == ASSIGNMENT
     receive(Forwarding())
+
+
+def test_a_configuration_that_goes_away_while_it_is_asked():
+    sector = vorlan.SB_Sector()
+
+    class Leaving:
+        @property
+        def PRstr_FileName(self):
+            sector.PRobj_GlobalParameters = None
+            return "sector.ini"
+
+    sector.PRobj_GlobalParameters = Leaving()
+    with pytest.raises(vorlan.AutomationError) as raised:
+        sector.ConfigureFwdAndAccChannel(True, 0)
+    assert raised.value.number in (1, 91)
