@@ -10,7 +10,7 @@ def create(name):
 
 message, _ = create("Vorlan.SB_Ses_MsgSessionClose")
 target, target_name = create("VorlanSim.MessageObject")
-message.Initialize(target_name, "", timeout=600)                  # seconds; the bus's own patience is 25
+message.Initialize(target_name, signature="(so)")        # of what is given: the optional argument is left away
 properties = dbus.Interface(message, dbus.PROPERTIES_IFACE)
 properties.Set("Vorlan.SB_Ses_MsgSessionClose", "PRstr_CloseReason", "00000011")
 try:

@@ -10,6 +10,7 @@ import dbus.service
 from dbus.mainloop.glib import DBusGMainLoop
 from gi.repository import GLib
 
+PATIENCE = 60  # seconds for what comes at once, but for the slowest of machines
 HOUR = 3600  # the bus's own patience, 25 s, is less than some operations take
 EMPTY = dbus.Signature("", variant_level=1)
 NULL = dbus.Signature("v", variant_level=1)
@@ -49,10 +50,23 @@ def raise_error(error):
     raise AutomationError(error.get_dbus_name(), error.get_dbus_message())
 
 
+def serve_until(condition, what, patience=PATIENCE):
+    """Answers calls of the script's objects meanwhile."""
+    end = time.monotonic() + patience
+    waker = GLib.timeout_add_seconds(1, lambda: True)
+    try:
+        while not condition():
+            assert time.monotonic() < end, f"{what} did not come in {patience} s"
+            GLib.MainContext.default().iteration(True)
+    finally:
+        GLib.source_remove(waker)
+
+
 class Pending:
     """A call that is under way."""
 
-    def __init__(self):
+    def __init__(self, name="", patience=PATIENCE):
+        self.name, self.patience = name, patience
         self.result = self.error = None
         self.done = False
         self.then = lambda: None
@@ -66,8 +80,7 @@ class Pending:
         self.then()
 
     def wait(self):
-        while not self.done:
-            GLib.MainContext.default().iteration(True)
+        serve_until(lambda: self.done, f"the answer to {self.name}", self.patience)
         if self.error:
             raise_error(self.error)
         return self.result
@@ -101,6 +114,8 @@ class Remote:
 
 
 class Client:
+    patience = PATIENCE
+
     def __init__(self, address):
         self.bus = dbus.bus.BusConnection(address, mainloop=DBusGMainLoop())
         self.bus.set_exit_on_disconnect(False)
@@ -108,7 +123,7 @@ class Client:
         self.worker = None
 
     def start(self, service, path, interface, member, signature="", *arguments):
-        pending = Pending()
+        pending = Pending(member, self.patience)
         self.bus.call_async(service, path, interface, member, signature, arguments, pending.finish, pending.fail, HOUR)
         return pending
 
@@ -184,8 +199,7 @@ def processes_of(program, address=None):
 
 
 def wait_until(condition):
-    """Waits for what is to come soon; a minute is only for the slowest of machines."""
-    end = time.monotonic() + 60
+    end = time.monotonic() + PATIENCE
     while not condition():
         assert time.monotonic() < end, "it did not happen"
         time.sleep(0.005)

@@ -35,7 +35,8 @@ BAD_CALLS = [
     ("Vorlan.Object", "Release", "s", ["now"], "InvalidArgs"),
     ("Vorlan.Object", "Destroy", "", [], "UnknownMethod"),
     (PROPERTIES, "Get", "ss", ["Test.Probe", "Echo"], "UnknownProperty"),
-    (PROPERTIES, "Get", "ss", ["Test.Nobody", "Held"], "UnknownProperty"),
+    (PROPERTIES, "Get", "ss", ["Test.Nobody", "Held"], "UnknownInterface"),
+    ("Test.Probe", "Echo", "v", ["\uffff"], "InvalidArgs"),
     (PROPERTIES, "Get", "s", ["Held"], "InvalidArgs"),
     (PROPERTIES, "Set", "ssv", ["Test.Probe", "Octets", "x"], "PropertyReadOnly"),
     (PROPERTIES, "Set", "ssv", ["Vorlan.Object", "Class", "x"], "PropertyReadOnly"),
@@ -69,6 +70,7 @@ def test_the_front_process_refuses_what_it_does_not_offer(client):
             ("/Vorlan", "Vorlan.Server", "Destroy", "", [], "UnknownMethod"),
             ("/Vorlan/Probe", "Test.Probe", "Echo", "v", [1], "UnknownMethod"),
             ("/Vorlan", PROPERTIES, "Get", "ss", ["Vorlan.Server", "Name"], "UnknownProperty"),
+            ("/Vorlan", "Vorlan.Server", "CloseSession", "s", ["nobody's"], "InvalidArgs"),
             ("/Vorlan/Probe", PROPERTIES, "GetAll", "s", ["Test.Nobody"], "UnknownInterface"),
             ("/Vorlan/Nobody", PROPERTIES, "GetAll", "s", [""], "UnknownObject"),
             ("/Vorlan/Nobody", dbus.INTROSPECTABLE_IFACE, "Introspect", "", [], "UnknownObject"),
@@ -87,6 +89,7 @@ def test_the_front_process_refuses_what_it_does_not_offer(client):
 
 
 def test_values_of_any_size_and_depth(client):
+    client.patience = 900  # sanitizers take their time over this
     probe = client.create("Probe")
     huge = "1" * 100_000_000
     report = ScriptObject(client, "/report", lambda *_: None)

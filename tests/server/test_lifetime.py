@@ -87,14 +87,41 @@ for call in {calls!r}:
     assert client.call(opened, shared, "Test.Probe", "Echo", "v", "alive") == "alive"
 
 
-def test_workers_end_with_the_front_process_and_the_next_call_starts_another(bus, client):
+@pytest.mark.parametrize("number", [signal.SIGKILL, signal.SIGTERM, signal.SIGINT])
+def test_workers_end_with_the_front_process_and_the_next_calls_start_another(bus, client, other_client, number):
     client.create("Probe")
-    worker = client.worker_process()
-    client.start(client.worker.service, client.worker.path, "Vorlan.Worker", "Create", "s", "Probe").wait()
-    os.kill(client.process_of("Vorlan.Server"), signal.SIGKILL)
-    wait_until(lambda: is_gone(worker))
+    worker, front = client.worker_process(), client.process_of("Vorlan.Server")
+    os.kill(front, number)
+    wait_until(lambda: is_gone(worker) and is_gone(front))
+    started = [one.start("Vorlan.Server", "/Vorlan", "Vorlan.Server", "Create", "s", "Probe")
+               for one in (client, other_client)]  # both at once
+    assert len({one.wait()[0] for one in started}) == 2
     assert client.create("Probe").call("Echo", "v", "again") == "again"
-    assert client.worker_process() != worker
+
+
+def test_a_server_started_by_hand(bus, client, other_client, tmp_path):
+    client.create("Probe")
+    front = client.process_of("Vorlan.Server")
+    second = subprocess.run([bus.server, "serve"], env=bus.environment(), stderr=subprocess.PIPE, text=True, timeout=60)
+    assert second.returncode == 1 and "there is a server on this bus already" in second.stderr
+    os.kill(front, signal.SIGTERM)
+    wait_until(lambda: is_gone(front))
+    told = tmp_path / "told"
+    server = subprocess.Popen([bus.server, "serve"], env=bus.environment(), stderr=told.open("w"))
+    try:
+        wait_until(lambda: client.call(dbus.BUS_DAEMON_NAME, "/", dbus.BUS_DAEMON_IFACE, "NameHasOwner", "s",
+                                       "Vorlan.Server"))
+        error_of(other_client.create("Probe").start("Test.Probe", "Crash").wait)
+        wait_until(told.read_text)
+        assert told.read_text() == f"vorlan: the worker of {other_client.name} was ended by signal 9\n"
+        client.create("Probe")
+        worker = client.worker_process()
+        server.send_signal(signal.SIGINT)
+        assert server.wait(60) == 0 and len(told.read_text().splitlines()) == 1
+        wait_until(lambda: is_gone(worker))
+    finally:
+        server.kill()
+        server.wait()
 
 
 @pytest.mark.parametrize("leaves", [False, True])
@@ -149,6 +176,14 @@ def test_an_open_session_serves_every_connection_until_its_process_ends(client, 
     process = client.process_of(opened)
     for number, name in ((holder.pid, "x"), (holder.pid, "no name"), (2**31 - 1, "y"), (2**32 - 1, "y")):
         assert error_of(lambda: open_session(client, number, name)).name == "org.freedesktop.DBus.Error.InvalidArgs"
+    for number in range(15):
+        open_session(client, holder.pid, f"x{number}")
+    for opener in (client, other_client):  # too many of one connection, too many for one process
+        raised = error_of(lambda: open_session(opener, os.getpid() if opener is client else holder.pid, "y"))
+        assert raised.name == "org.freedesktop.DBus.Error.LimitsExceeded"
+    other_client.call("Vorlan.Server", "/Vorlan", "Vorlan.Server", "CloseSession", "s", "x")
+    wait_until(lambda: is_gone(process))
+    process = client.process_of(open_session(client, holder.pid, "x"))
     holder.kill()
     holder.wait()
     wait_until(lambda: is_gone(process))

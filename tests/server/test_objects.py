@@ -1,7 +1,7 @@
 """Objects of the script that the library calls back, and calls that wait."""
 
 import dbus
-from client import EMPTY, Client, ScriptObject, error_of, is_gone, wait_until
+from client import EMPTY, Client, Pending, ScriptObject, error_of, is_gone, serve_until, wait_until
 
 
 class Message:
@@ -89,14 +89,17 @@ def test_an_object_that_answers_with_anything_else_is_an_automation_error(client
     def answer(*_):
         raise ValueError("no idea")
 
+    released = client.create("Probe")
+    released.release()
     references = [
+        (ScriptObject(client, "/stale", lambda *_: released.reference).reference, "no object " + released.path),
         (ScriptObject(client, "/failing", answer).reference, "ValueError: no idea"),
         (dbus.Struct((client.name, dbus.ObjectPath("/missing")), signature="so"), "UnknownMethod"),
         (dbus.Struct(("no.such.Service", dbus.ObjectPath("/x")), signature="so"), "ServiceUnknown"),
     ]
     for reference, text in references:
         raised = error_of(lambda: probe.call("CallObject", "(so)sv", reference, "Go", EMPTY))
-        assert raised.number == 440 and text in raised.description
+        assert raised.key()[:2] == (440, f"{reference[1]}.Go") and text in raised.description
 
 
 def test_an_object_whose_process_goes_away_in_the_middle_of_a_call(bus, client):
@@ -136,6 +139,33 @@ def test_waiting_for_a_script_s_object_can_be_cancelled(client):
     raised = error_of(lambda: probe.call("CallObject", "(so)sv", script.reference, "Go", EMPTY))
     assert raised.number == 18 and cancelled == [1]
     assert probe.call("Echo", "v", "alive") == "alive"
+
+
+def test_one_cancel_ends_a_call_whatever_the_library_makes_of_it(client):
+    asked = []
+
+    def answer(member, *_):
+        asked.append(member)
+        yield Pending()
+
+    silent = ScriptObject(client, "/silent", answer)
+    sector, configuration = client.create("SB_Sector"), client.create("SB_GlobalParameters")
+    for name in ("GlobalParameters", "FChCollection", "AccChCollection", "EvSignalling", "RadioChannelEmulator"):
+        sector.set("PRobj_" + name, silent.reference)
+    configuration.set("PRobj_IniReader", silent.reference)
+    for target, member, access, *arguments in [
+            (sector, "CleanUp", "Call"), (sector, "EnableFading", "Call"),
+            (configuration, "PRint_SecurityType", "Get", "SECTOR 0"), (configuration, "Initialize", "Call", "SECTOR 0")]:
+        asked.clear()
+        pending = target.start("Vorlan.Object", "Invoke", "ssav", member, access, arguments)
+        serve_until(lambda: asked or pending.done, member)
+        assert client.worker.call("Cancel") == 1
+        source = target.interface.split(".")[1] + "." + member
+        assert error_of(pending.wait).key() == (18, source, "User interrupt occurred")
+        assert len(asked) == 1
+    # Who looks at an object does not ask the script's, and so never waits.
+    shown = sector.start(dbus.PROPERTIES_IFACE, "GetAll", "s", sector.interface).wait()
+    assert "PRstr_SectorName" in shown and len(asked) == 1
 
 
 def test_an_endless_loop_or_crash_of_one_client_does_not_touch_another(bus, client, other_client):

@@ -1,5 +1,7 @@
 #include "server/dbus/bus.hpp"
 
+#include <cerrno>
+#include <stdexcept>
 #include <system_error>
 
 #include "server/dbus/wire_text.hpp"
@@ -19,7 +21,11 @@ int check(int result, const char* doing) {
 
 Bus open_session_bus() {
   sd_bus* bus = nullptr;
-  check(sd_bus_open_user(&bus), "session bus");
+  const int opened = sd_bus_open_user(&bus);
+  if (opened == -ENOMEDIUM) {
+    throw std::runtime_error("no session bus: neither DBUS_SESSION_BUS_ADDRESS nor XDG_RUNTIME_DIR is set");
+  }
+  check(opened, "session bus");
   return Bus(bus);
 }
 
@@ -83,9 +89,17 @@ void refuse_signature(sd_bus_message* call, const std::string& expected) {
                                                "\", not \"" + (given != nullptr ? given : "") + "\"."};
 }
 
+int check_read(int result) {
+  // Not on the bus itself: it would have closed the caller's connection.
+  if (result == -EBADMSG) {
+    throw Refusal{SD_BUS_ERROR_INVALID_ARGS, "A text with a noncharacter of Unicode; send octets (ay) in a variant."};
+  }
+  return check(result, "argument");
+}
+
 std::string read_text(sd_bus_message* message) {
   const char* text = nullptr;
-  check(sd_bus_message_read_basic(message, 's', static_cast<void*>(&text)), "text");
+  check_read(sd_bus_message_read_basic(message, 's', static_cast<void*>(&text)));
   return text;
 }
 

@@ -56,6 +56,8 @@ void reply_with(sd_bus_message* call, const char* signature, Values... values) {
 /// Refuses a call whose arguments are not those of `signature`.
 void require_signature(sd_bus_message* call, const char* signature);
 [[noreturn]] void refuse_signature(sd_bus_message* call, const std::string& expected);
+/// What reading from a message gave; a text that the bus library does not take is refused.
+int check_read(int result);
 std::string read_text(sd_bus_message* message);
 
 }  // namespace vorlan::dbus

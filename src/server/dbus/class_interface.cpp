@@ -17,16 +17,18 @@ std::string documentation(std::string_view summary) {
   return "   <annotation name=\"org.gtk.GDBus.DocString\" value=\"" + xml_attribute(summary) + "\"/>\n";
 }
 
-std::string argument_xml(std::string_view name, ValueType type, const char* direction) {
-  return std::string("   <arg type=\"") + signature_of(type) + "\" name=\"" + std::string(name) + "\" direction=\"" +
-         direction + "\"/>\n";
+std::string argument_xml(const BusArgument& argument, const char* direction) {
+  const std::string xml = std::string("   <arg type=\"") + signature_of(argument.type) + "\" name=\"" +
+                          std::string(argument.name) + "\" direction=\"" + direction + "\"";
+  if (!argument.optional) return xml + "/>\n";
+  return xml + ">\n " + documentation(std::string("optional, ") + signature_of(*argument.optional)) + "   </arg>\n";
 }
 
 std::string method_xml(const BusMethod& method) {
   std::string xml = "  <method name=\"" + method.name + "\">\n";
-  for (const BusArgument& argument : method.in) xml += argument_xml(argument.name, argument.type, "in");
-  if (method.has_result) xml += argument_xml("result", method.member->type, "out");
-  for (const std::size_t i : method.by_reference) xml += argument_xml(method.in[i].name, method.in[i].type, "out");
+  for (const BusArgument& argument : method.in) xml += argument_xml(argument, "in");
+  if (method.has_result) xml += argument_xml({"result", method.member->type}, "out");
+  for (const std::size_t i : method.by_reference) xml += argument_xml({method.in[i].name, method.in[i].type}, "out");
   return xml + documentation(method.member->summary) + "  </method>\n";
 }
 
@@ -60,7 +62,13 @@ bool BusMethod::accepts(std::string_view given) const noexcept {
          std::string_view(signature).starts_with(given);
 }
 
-ClassInterface::ClassInterface(std::string name, const ClassInfo& info) : name_(std::move(name)) {
+std::string BusMethod::expected() const {
+  if (optional == 0) return signature;
+  return std::string(signature).insert(signature.size() - optional, "[") + "]";
+}
+
+ClassInterface::ClassInterface(std::string name, const ClassInfo& info)
+    : name_(std::move(name)), summary_(info.summary()) {
   for (const MemberInfo& member : info.members()) {
     if (is_bus_property(member)) {
       properties_.push_back(&member);
@@ -80,7 +88,9 @@ void ClassInterface::add_method(const MemberInfo& member, bool assigns) {
   method.has_result = !assigns && member.type != ValueType::Empty;
   for (const ParameterInfo& parameter : member.parameters) {
     if (parameter.by_reference) method.by_reference.push_back(method.in.size());
-    method.in.push_back({parameter.name, parameter.optional ? ValueType::Any : parameter.type});
+    const bool optional = parameter.optional;
+    method.in.push_back({parameter.name, optional ? ValueType::Any : parameter.type,
+                         optional ? std::optional(parameter.type) : std::nullopt});
     method.optional = parameter.optional ? method.optional + 1 : 0;
   }
   if (assigns) {
@@ -102,7 +112,7 @@ const BusMethod* ClassInterface::method(std::string_view name) const noexcept {
 }
 
 std::string ClassInterface::xml() const {
-  std::string members;
+  std::string members = documentation(summary_);
   for (const auto& method : methods_) members += method_xml(*method);
   for (const MemberInfo* member : properties_) members += property_xml(*member);
   return interface_xml(name_, members);

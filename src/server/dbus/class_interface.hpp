@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,6 +22,7 @@ namespace vorlan::dbus {
 struct BusArgument {
   std::string_view name;
   ValueType type = ValueType::Any;
+  std::optional<ValueType> optional = {};  ///< of an optional argument: what the variant is converted to
 };
 
 /// A D-Bus method of a class, and what it does to the member behind it.
@@ -36,6 +38,8 @@ struct BusMethod {
 
   /// Whether the arguments of a call have this signature.
   [[nodiscard]] bool accepts(std::string_view given) const noexcept;
+  /// The signature for people, with what may be left away in brackets: "n[vv]".
+  [[nodiscard]] std::string expected() const;
 };
 
 /// A property of a class that is one on the bus.
@@ -64,6 +68,7 @@ class ClassInterface {
   void add_method(const MemberInfo& member, bool assigns);
 
   std::string name_;
+  std::string_view summary_;
   std::vector<const MemberInfo*> properties_;
   std::vector<std::unique_ptr<BusMethod>> methods_;
   std::unordered_map<std::string_view, const MemberInfo*> properties_by_name_;

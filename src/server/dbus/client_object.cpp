@@ -1,6 +1,7 @@
 #include "server/dbus/client_object.hpp"
 
 #include <array>
+#include <system_error>
 
 #include "automation/error.hpp"
 #include "server/dbus/names.hpp"
@@ -53,6 +54,18 @@ Value ClientObject::invoke(std::string_view member, Access access, std::span<Val
   // What runs until the answer comes may let go of the object.
   const Ref<Object> held(this);
   const std::string name(member);
+  // The library knows of automation errors alone; nor is it the caller of the library who did what is refused here.
+  try {
+    return ask(name, access, arguments);
+  } catch (const Refusal& refusal) {
+    throw Error(kAutomationError, source_of(name), refusal.text);
+  } catch (const std::system_error& error) {
+    throw Error(kAutomationError, source_of(name), error.what());
+  }
+}
+
+Value ClientObject::ask(const std::string& name, Access access, std::span<Value> arguments) {
+  clients_.pump.require_patience();
   const Message call = new_call(clients_.bus, name_.service.c_str(), name_.path.c_str(), kObjectInterface, "Invoke");
   Writer writer(call.get(), clients_.references);
   writer.append(ValueType::String, name);
@@ -66,10 +79,10 @@ Value ClientObject::invoke(std::string_view member, Access access, std::span<Val
   clients_.pump.until(answer.wait);
 
   sd_bus_message* reply = answer.message.get();
-  if (sd_bus_message_is_method_error(reply, nullptr) > 0) throw read_error(reply, name_.path + "." + name);
+  if (sd_bus_message_is_method_error(reply, nullptr) > 0) throw read_error(reply, source_of(name));
   const bool changes = sd_bus_message_has_signature(reply, "vav") > 0;
   if (!changes && sd_bus_message_has_signature(reply, "v") == 0) {
-    throw Error(ErrorNumber::TypeMismatch, name_.path + "." + name, "Invoke returns \"vav\"");
+    throw Error(ErrorNumber::TypeMismatch, source_of(name), "Invoke returns \"vav\"");
   }
   Value result = read_value(reply, clients_.references);
   if (changes) {

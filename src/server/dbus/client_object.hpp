@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <string>
 #include <utility>
 
 #include "server/dbus/pump.hpp"
@@ -31,6 +32,9 @@ class ClientObject final : public Object {
  private:
   ClientObject(Clients& clients, const Reference& name);
   ~ClientObject() override;
+
+  Value ask(const std::string& member, Access access, std::span<Value> arguments);
+  [[nodiscard]] std::string source_of(const std::string& member) const { return name_.path + "." + member; }
 
   Clients& clients_;
   Reference name_;

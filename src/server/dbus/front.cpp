@@ -1,11 +1,14 @@
 #include "server/dbus/front.hpp"
 
 #include <sys/epoll.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <optional>
 #include <stdexcept>
 #include <system_error>
@@ -24,10 +27,13 @@ struct Front::Session {
   std::vector<Message> waiting = {};  ///< calls that came before that
   Source ready = {};
   Source worker_end = {};
-  Descriptor holder{};  ///< of an open session: the process that it lasts as long as
+  std::string opener = {};  ///< of an open session: the connection that asked for it
+  pid_t holder = -1;        ///< and the process that it lasts as long as
+  Descriptor holder_watch{};
   Source holder_end = {};
-  bool lost = false;       ///< the worker has left the bus, and its end is about to be noticed
-  unsigned under_way = 0;  ///< calls that the worker has not answered yet
+  std::vector<Message> closing = {};  ///< calls that are answered when the worker has ended
+  bool lost = false;                  ///< the worker has left the bus, and its end is about to be noticed
+  unsigned under_way = 0;             ///< calls that the worker has not answered yet
 };
 
 /// A call that was passed on to a worker.
@@ -41,10 +47,22 @@ namespace {
 
 /// The bus counts the calls that the front waits for, and none of its clients is to use them up for all others.
 constexpr std::size_t kMostCalls = 500;
+/// Each has a process and up to three open files here.
+constexpr std::size_t kMostSessions = 200;
+/// Of one connection, or for one process.
+constexpr std::ptrdiff_t kMostOpened = 16;
 
 constexpr const char* kOwnerOnly = "Only the user who owns the bus may use this server.";
 constexpr const char* kClientsLeaving =
     "type='signal',sender='org.freedesktop.DBus',interface='org.freedesktop.DBus',member='NameOwnerChanged',arg2=''";
+
+/// As many open files as the system lets the process have.
+void raise_file_limit() noexcept {
+  rlimit limit{};
+  if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+  limit.rlim_cur = limit.rlim_max;
+  setrlimit(RLIMIT_NOFILE, &limit);
+}
 
 Loop make_loop() {
   sd_event* loop = nullptr;
@@ -62,6 +80,7 @@ Front::Front(const Registry& registry, std::string program)
       bus_(open_session_bus()),
       name_(unique_name(bus_.get())),
       owner_(bus_owner(bus_.get())) {
+  raise_file_limit();
   sigset_t signals;
   sigemptyset(&signals);
   for (const int signal : {SIGTERM, SIGINT}) sigaddset(&signals, signal);
@@ -136,22 +155,45 @@ void Front::open_session(sd_bus_message* call) {
   std::uint32_t process = 0;
   check(sd_bus_message_read_basic(call, 'u', &process), "process");
   const std::string name = kSessionPrefix + read_text(call);
-  if (sd_bus_service_name_is_valid(name.c_str()) == 0 || sessions_.contains(name)) {
-    throw Refusal{SD_BUS_ERROR_INVALID_ARGS, name + " is taken, or not a name that the bus allows."};
+  if (sd_bus_service_name_is_valid(name.c_str()) == 0) {
+    throw Refusal{SD_BUS_ERROR_INVALID_ARGS, name + " is not a name that the bus allows."};
   }
+  if (sessions_.contains(name)) throw Refusal{SD_BUS_ERROR_INVALID_ARGS, name + " is taken."};
   const auto holder = static_cast<pid_t>(process);
   // In this order: what is watched cannot become another process any more.
   std::optional<Descriptor> watched = watch_process(holder);
   if (!watched || !is_process_of(holder, owner_)) {
     throw Refusal{SD_BUS_ERROR_INVALID_ARGS, "No process " + std::to_string(process) + " of the bus's owner."};
   }
+  const std::string opener = sd_bus_message_get_sender(call);
+  const auto opened = std::count_if(sessions_.begin(), sessions_.end(), [&](const auto& known) {
+    return known.second->opener == opener || known.second->holder == holder;
+  });
+  if (opened >= kMostOpened) {
+    throw Refusal{SD_BUS_ERROR_LIMITS_EXCEEDED, "Too many open sessions of this connection or for this process."};
+  }
   auto session = start(name);
-  session->holder = std::move(*watched);
-  session->holder_end = watch<&Front::on_holder_end>(session->holder, *session);
+  session->opener = opener;
+  session->holder = holder;
+  session->holder_watch = std::move(*watched);
+  session->holder_end = watch<&Front::on_holder_end>(session->holder_watch, *session);
   pass_on(add(std::move(session)), hold(call));
 }
 
+void Front::close_session(sd_bus_message* call) {
+  require_signature(call, "s");
+  const std::string name = kSessionPrefix + read_text(call);
+  const auto open = sessions_.find(name);
+  if (open == sessions_.end()) throw Refusal{SD_BUS_ERROR_INVALID_ARGS, "There is no " + name + "."};
+  // Answered when the name is free again.
+  open->second->closing.push_back(hold(call));
+  open->second->process.kill();
+}
+
 std::unique_ptr<Front::Session> Front::start(const std::string& client) {
+  if (sessions_.size() >= kMostSessions) {
+    throw Refusal{SD_BUS_ERROR_LIMITS_EXCEEDED, "Too many sessions at a time."};
+  }
   auto session = std::unique_ptr<Session>(new Session{*this, client, WorkerProcess(program_, client, name_)});
   session->ready = watch<&Front::on_ready>(session->process.ready(), *session);
   session->worker_end = watch<&Front::on_worker_end>(session->process.end(), *session);
@@ -251,7 +293,12 @@ void Front::return_answer(sd_bus_message* answer, const PassedOn& passed_on) noe
 void Front::on_worker_end(Session& session) {
   const bool starts_again = session.lost;
   const std::vector<Message> waiting = std::exchange(session.waiting, {});
+  const std::vector<Message> closing = std::exchange(session.closing, {});
+  if (const std::string end = session.process.wait(); !end.empty()) {
+    std::fprintf(stderr, "vorlan: the worker of %s %s\n", session.client.c_str(), end.c_str());
+  }
   sessions_.erase(sessions_.find(session.client));
+  for (const Message& call : closing) sd_bus_reply_method_return(call.get(), nullptr);
   for (const Message& call : waiting) {
     if (starts_again) {
       on_call(call.get());

@@ -47,6 +47,7 @@ class Front {
   void list_classes(sd_bus_message* call);
   void create(sd_bus_message* call);
   void open_session(sd_bus_message* call);
+  void close_session(sd_bus_message* call);
   void require_owner(sd_bus_message* call);
 
   /// A session whose worker is about to be ready. It is nobody's until it is added: whatever fails before ends it.

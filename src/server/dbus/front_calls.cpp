@@ -13,6 +13,7 @@ constexpr std::string_view kServerMembers =
     R"xml(  <method name="Classes"><arg type="a(ss)" name="classes" direction="out"/></method>
   <method name="OpenSession"><arg type="u" name="process" direction="in"/><arg type="s" name="name" direction="in"/>
    <arg type="s" name="service" direction="out"/></method>
+  <method name="CloseSession"><arg type="s" name="name" direction="in"/></method>
 )xml";
 
 }  // namespace
@@ -22,11 +23,13 @@ void Front::dispatch(sd_bus_message* call) {
   const bool own = target.path == kRootPath && target.is_for(kServerInterface);
   const bool creates = own && target.member == "Create";
   const bool opens = own && target.member == "OpenSession";
+  const bool closes = own && target.member == "CloseSession";
   // All else has no effect but its answer.
-  if (!creates && !opens && sd_bus_message_get_expect_reply(call) == 0) return;
+  if (!creates && !opens && !closes && sd_bus_message_get_expect_reply(call) == 0) return;
   require_owner(call);
   if (creates) return create(call);
   if (opens) return open_session(call);
+  if (closes) return close_session(call);
   if (own && target.member == "Classes") return list_classes(call);
   if (target.introspects()) return introspect(target);
   if (target.uses_properties()) return use_properties(target);
@@ -62,9 +65,9 @@ void Front::use_properties(const Target& target) {
   const PropertyCall wanted(target);
   const ClassInterface* shown = class_at(target.path);
   const std::string own = shown != nullptr ? shown->name() : target.path == kRootPath ? kServerInterface : "";
+  if (!wanted.interface.empty() && wanted.interface != own) wanted.refuse_interface();
   // A class has no values; tools ask all the same.
   if (!wanted.all) wanted.refuse(false);
-  if (!wanted.interface.empty() && wanted.interface != own) wanted.refuse_interface();
   reply_with(target.call, "a{sv}", 0U);
 }
 

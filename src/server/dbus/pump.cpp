@@ -6,17 +6,16 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <system_error>
-
-#include "automation/error.hpp"
 
 namespace vorlan::dbus {
 
 namespace {
 
 constexpr unsigned kMostThreads = 64;
-constexpr std::int32_t kInterrupted = 18;
 
 using std::chrono::duration_cast;
 using std::chrono::microseconds;
@@ -44,6 +43,13 @@ void wait_for_input(int bus, int events, int wake, std::optional<Pump::Clock::ti
   if (ready > 0 && polled[1].revents != 0) eventfd_read(wake, &times);
 }
 
+/// Without its bus a worker has no one to work for. Its objects go with the process.
+[[noreturn]] void end_without_bus(int error) {
+  const bool left = error == -ENOTCONN || error == -ECONNRESET || error == -EPIPE;
+  if (!left) std::fprintf(stderr, "vorlan: a worker lost its bus: %s\n", std::strerror(-error));
+  std::_Exit(left ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
 int make_event() {
   const int made = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
   return check(made < 0 ? -errno : made, "event");
@@ -51,15 +57,18 @@ int make_event() {
 
 }  // namespace
 
+Error interrupt(std::string_view source) { return {kInterrupted, source, "User interrupt occurred"}; }
+
 Pump::Pump(sd_bus* bus, Calls& calls) : bus_(bus), calls_(calls), wake_(make_event()) {}
 
 void Pump::run() {
   Lock gate(gate_);
   leader_ = std::this_thread::get_id();
-  work(gate);
+  work(gate, threads_.emplace_back());
 }
 
-void Pump::work(Lock& gate) {
+void Pump::work(Lock& gate, Thread& own) {
+  own.id = std::this_thread::get_id();
   for (;;) {
     if (!leads()) {
       ++idle_;
@@ -69,6 +78,7 @@ void Pump::work(Lock& gate) {
     }
     const Message call = handed_ ? std::move(handed_) : listen(gate, std::nullopt);
     if (!call) continue;
+    own.impatient = own.interrupted = false;
     calls_.answer(call.get());
     if (!leads()) wake_leader();
   }
@@ -78,8 +88,7 @@ Message Pump::listen(Lock& gate, std::optional<Clock::time_point> end) {
   sd_bus_message* got = nullptr;
   const int processed = sd_bus_process(bus_, &got);
   Message message(got);
-  // Without its bus a worker has no one to work for. Its objects go with the process.
-  if (processed < 0) std::_Exit(EXIT_SUCCESS);
+  if (processed < 0) end_without_bus(processed);
   if (processed > 0) {
     const bool call = message && sd_bus_message_is_method_call(message.get(), nullptr, nullptr) > 0;
     if (!call || !calls_.admit(message.get())) return nullptr;
@@ -89,17 +98,31 @@ Message Pump::listen(Lock& gate, std::optional<Clock::time_point> end) {
   sd_bus_get_timeout(bus_, &bus_time);
   const int descriptor = sd_bus_get_fd(bus_);
   const int events = sd_bus_get_events(bus_);
-  if (descriptor < 0 || events < 0) std::_Exit(EXIT_SUCCESS);
+  if (descriptor < 0 || events < 0) end_without_bus(std::min(descriptor, events));
   gate.unlock();
   wait_for_input(descriptor, events, wake_.get(), earlier(end, bus_time));
   gate.lock();
   return nullptr;
 }
 
+Pump::Thread& Pump::own_thread() noexcept {
+  return *std::find_if(threads_.begin(), threads_.end(),
+                       [](const Thread& thread) { return thread.id == std::this_thread::get_id(); });
+}
+
+void Pump::require_patience() {
+  Thread& own = own_thread();
+  if (!own.impatient) return;
+  own.interrupted = true;
+  throw interrupt();
+}
+
 void Pump::until(Wait& wait, std::optional<Clock::time_point> end) {
+  require_patience();
+  Thread& own = own_thread();
   Lock gate(gate_, std::adopt_lock);
-  const auto place = waits_.insert(waits_.end(), &wait);
-  const auto goes_on = [&] { return !wait.done_ && !wait.cancelled_ && !(end && Clock::now() >= *end); };
+  own.wait = &wait;
+  const auto goes_on = [&] { return !wait.done_ && !own.impatient && !(end && Clock::now() >= *end); };
   if (!leads()) wake_leader();
   while (goes_on()) {
     if (leads()) {
@@ -111,9 +134,9 @@ void Pump::until(Wait& wait, std::optional<Clock::time_point> end) {
       wait.changed_.wait(gate);
     }
   }
-  waits_.erase(place);
+  own.wait = nullptr;
   static_cast<void>(gate.release());
-  if (wait.cancelled_ && !wait.done_) throw Error(kInterrupted, {}, "User interrupt occurred");
+  require_patience();
 }
 
 void Pump::wake_leader() noexcept {
@@ -121,14 +144,19 @@ void Pump::wake_leader() noexcept {
 }
 
 bool Pump::add_thread() noexcept try {
-  if (threads_ == kMostThreads) return false;
-  std::thread([this] {
-    Lock gate(gate_);
-    work(gate);
-  }).detach();
-  ++threads_;
+  if (threads_.size() == kMostThreads) return false;
+  Thread& added = threads_.emplace_back();
+  try {
+    std::thread([this, &added] {
+      Lock gate(gate_);
+      work(gate, added);
+    }).detach();
+  } catch (const std::system_error&) {
+    threads_.pop_back();
+    return false;
+  }
   return true;
-} catch (const std::system_error&) {
+} catch (const std::bad_alloc&) {
   return false;
 }
 
@@ -142,11 +170,25 @@ void Pump::hand_over(Message call) noexcept {
 }
 
 unsigned Pump::cancel() noexcept {
-  for (Wait* wait : waits_) {
-    wait->cancelled_ = true;
-    wait->changed_.notify_one();
+  unsigned cancelled = 0;
+  for (Thread& thread : threads_) {
+    if (thread.wait == nullptr) continue;
+    thread.impatient = true;
+    thread.wait->changed_.notify_one();
+    ++cancelled;
   }
-  return static_cast<unsigned>(waits_.size());
+  return cancelled;
+}
+
+Pump::Impatience::Impatience(Pump& pump) noexcept : pump_(pump) {
+  Thread& own = pump_.own_thread();
+  own.impatient = true;
+  own.interrupted = false;
+}
+
+Pump::Impatience::~Impatience() {
+  Thread& own = pump_.own_thread();
+  own.impatient = own.interrupted = false;
 }
 
 }  // namespace vorlan::dbus

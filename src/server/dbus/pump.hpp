@@ -6,12 +6,18 @@
 #include <list>
 #include <mutex>
 #include <optional>
+#include <string_view>
 #include <thread>
 
+#include "automation/error.hpp"
 #include "server/dbus/bus.hpp"
 #include "server/dbus/worker_process.hpp"
 
 namespace vorlan::dbus {
+
+/// What a call that was cancelled ends with.
+inline constexpr std::int32_t kInterrupted = 18;
+Error interrupt(std::string_view source = {});
 
 /// What is done with the calls that come in.
 class Calls {
@@ -59,25 +65,49 @@ class Pump {
     friend class Pump;
     std::condition_variable changed_;
     bool done_ = false;
-    bool cancelled_ = false;
   };
 
   /// Lets other calls run until `wait` is finished or the time is over; error 18 if it is cancelled meanwhile.
   void until(Wait& wait, std::optional<Clock::time_point> end = std::nullopt);
+  /// To be called before what is to be waited for begins: error 18 if this thread's call is to wait no more.
+  void require_patience();
 
-  /// Ends everything that is waited for at this moment; the number of waits.
+  /// Ends every call that waits at this moment; their number. Each waits no more, whatever the library makes of error
+  /// 18 in between.
   unsigned cancel() noexcept;
+  /// Whether error 18 has met the call that this thread answers.
+  [[nodiscard]] bool interrupted() noexcept { return own_thread().interrupted; }
+
+  /// While there is one, the thread's call meets error 18 instead of waiting.
+  class Impatience {
+   public:
+    explicit Impatience(Pump& pump) noexcept;
+    Impatience(const Impatience&) = delete;
+    Impatience& operator=(const Impatience&) = delete;
+    ~Impatience();
+
+   private:
+    Pump& pump_;
+  };
 
  private:
+  /// A thread, and how the call fares that it answers.
+  struct Thread {
+    std::thread::id id;
+    Wait* wait = nullptr;
+    bool impatient = false;  ///< it is to wait no more
+    bool interrupted = false;
+  };
   using Lock = std::unique_lock<std::mutex>;
 
-  [[noreturn]] void work(Lock& gate);
+  [[noreturn]] void work(Lock& gate, Thread& own);
   /// As leader: one step of listening. The call to be answered, if one has come in.
   Message listen(Lock& gate, std::optional<Clock::time_point> end);
   /// As anyone else, after sending: what the socket did not take is the leader's to send, and it may not know.
   void wake_leader() noexcept;
   void hand_over(Message call) noexcept;
   bool add_thread() noexcept;
+  [[nodiscard]] Thread& own_thread() noexcept;
   [[nodiscard]] bool leads() const noexcept { return leader_ == std::this_thread::get_id(); }
 
   sd_bus* bus_;
@@ -88,8 +118,7 @@ class Pump {
   std::condition_variable handed_over_;
   Message handed_;  ///< goes to an idle thread, and the lead with it
   unsigned idle_ = 0;
-  unsigned threads_ = 1;
-  std::list<Wait*> waits_;
+  std::list<Thread> threads_;
 };
 
 }  // namespace vorlan::dbus

@@ -9,7 +9,6 @@ namespace vorlan::dbus {
 
 namespace {
 
-constexpr const char* kReading = "argument";
 constexpr const char* kWriting = "result";
 constexpr unsigned kMostArrays = 24;
 /// What a value takes at most beside its text: signature, length, and what fills up to eight octets.
@@ -18,7 +17,7 @@ constexpr std::size_t kOctetsOfValue = 32;
 template <class T>
 T read_basic(sd_bus_message* message, char type) {
   T value{};
-  check(sd_bus_message_read_basic(message, type, &value), kReading);
+  check_read(sd_bus_message_read_basic(message, type, &value));
   return value;
 }
 
@@ -40,14 +39,14 @@ Value read_marker(sd_bus_message* message) {
 Value read_octets(sd_bus_message* message) {
   const void* octets = nullptr;
   std::size_t size = 0;
-  check(sd_bus_message_read_array(message, 'y', &octets, &size), kReading);
+  check_read(sd_bus_message_read_array(message, 'y', &octets, &size));
   return std::string_view(static_cast<const char*>(octets), size);
 }
 
 Value read_structure(sd_bus_message* message, std::string_view contents, References& references) {
   if (contents != "so" && contents != "d") throw Error(ErrorNumber::TypeMismatch, {}, "a structure");
   const bool object = contents == "so";
-  check(sd_bus_message_enter_container(message, 'r', object ? "so" : "d"), kReading);
+  check_read(sd_bus_message_enter_container(message, 'r', object ? "so" : "d"));
   Value value;
   if (object) {
     const char* service = read_basic<const char*>(message, 's');
@@ -55,7 +54,7 @@ Value read_structure(sd_bus_message* message, std::string_view contents, Referen
   } else {
     value = Date{read_basic<double>(message, 'd')};
   }
-  check(sd_bus_message_exit_container(message), kReading);
+  check_read(sd_bus_message_exit_container(message));
   return value;
 }
 
@@ -89,7 +88,7 @@ const char* signature_of(ValueType type) noexcept {
 Value read_value(sd_bus_message* message, References& references, unsigned arrays) {
   char type = 0;
   const char* contents = nullptr;
-  if (check(sd_bus_message_peek_type(message, &type, &contents), kReading) == 0) return {};
+  if (check_read(sd_bus_message_peek_type(message, &type, &contents)) == 0) return {};
   switch (type) {
     case 'b': return read_basic<int>(message, type) != 0;
     case 'n': return read_basic<std::int16_t>(message, type);
@@ -109,10 +108,10 @@ Value read_value(sd_bus_message* message, References& references, unsigned array
       [[fallthrough]];
     case 'v': {
       if (arrays == kMostArrays) throw Error(ErrorNumber::TypeMismatch, {}, "arrays nested too deep");
-      check(sd_bus_message_enter_container(message, type, contents), kReading);
+      check_read(sd_bus_message_enter_container(message, type, contents));
       Value value =
           type == 'v' ? read_value(message, references, arrays) : Value(read_values(message, references, arrays + 1));
-      check(sd_bus_message_exit_container(message), kReading);
+      check_read(sd_bus_message_exit_container(message));
       return value;
     }
     default: throw Error(ErrorNumber::TypeMismatch, {}, "a D-Bus type that no value has");
@@ -121,7 +120,7 @@ Value read_value(sd_bus_message* message, References& references, unsigned array
 
 Value::Array read_values(sd_bus_message* message, References& references, unsigned arrays) {
   Value::Array values;
-  while (check(sd_bus_message_at_end(message, 0), kReading) == 0) {
+  while (check_read(sd_bus_message_at_end(message, 0)) == 0) {
     values.push_back(read_value(message, references, arrays));
   }
   return values;

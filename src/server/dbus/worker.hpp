@@ -45,6 +45,10 @@ class Worker final : private Calls, private References {
   void introspect(const Target& target);
   void call_root(const Target& target);
   void use_root_properties(const Target& target);
+  /// Uses a member of an object, by a function that fills the reply. An error that names no source comes from the
+  /// member; a call that was cancelled ends with error 18, whatever has become of it.
+  template <class Function>
+  void use(const Target& target, const Object& object, std::string_view member, Function&& function);
   void use_properties(const Target& target, Object& object);
   void get_all(const PropertyCall& wanted, const Target& target, Object& object);
   void append_readable(sd_bus_message* reply, Writer& writer, const MemberInfo& member, Object& object);

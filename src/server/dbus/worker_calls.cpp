@@ -100,13 +100,30 @@ void Worker::use_root_properties(const Target& target) {
   const auto count = static_cast<std::uint32_t>(objects_.size());
   const PropertyCall wanted(target);
   const bool own = wanted.interface.empty() || wanted.interface == kWorkerInterface;
-  if (wanted.all) {
-    if (!own) wanted.refuse_interface();
-    return reply_with(target.call, "a{sv}", 1U, "Objects", "u", count);
-  }
-  const bool known = own && wanted.name == "Objects";
+  if (!own) wanted.refuse_interface();
+  if (wanted.all) return reply_with(target.call, "a{sv}", 1U, "Objects", "u", count);
+  const bool known = wanted.name == "Objects";
   if (!known || wanted.sets) wanted.refuse(known);
   reply_with(target.call, "v", "u", count);
+}
+
+template <class Function>
+void Worker::use(const Target& target, const Object& object, std::string_view member, Function&& function) {
+  const auto source = [&] {
+    const ClassInfo* info = object.class_info();
+    return std::string(info != nullptr ? info->name() : "Object").append(".").append(member);
+  };
+  const Message reply = new_return(target.call);
+  try {
+    function(reply.get());
+  } catch (Error& error) {
+    // The library may have made something else of the error that ended a wait.
+    if (pump_.interrupted() && error.number() != kInterrupted) throw interrupt(source());
+    if (!error.is(ErrorNumber::Failed)) error.set_source_if_empty(source());
+    throw;
+  }
+  if (pump_.interrupted()) throw interrupt(source());
+  send_reply(target.call, reply.get());
 }
 
 void Worker::use_properties(const Target& target, Object& object) {
@@ -118,21 +135,22 @@ void Worker::use_properties(const Target& target, Object& object) {
   const MemberInfo* member = own ? interface->property(wanted.name) : nullptr;
   if (member == nullptr) {
     const bool known = wanted.interface == kObjectInterface && wanted.name == "Class";
+    if (!own && !wanted.interface.empty() && wanted.interface != kObjectInterface) wanted.refuse_interface();
     if (!known || wanted.sets) wanted.refuse(known);
     return reply_with(target.call, "v", "s", class_name(object).c_str());
   }
-  const Message reply = new_return(target.call);
-  if (wanted.sets) {
-    if (!member->lets && !member->sets) wanted.refuse(true);
-    std::array value{read_value(target.call, *this)};
-    object.invoke(member->name, assignment_of(*member, value[0]), value);
-  } else {
+  if (wanted.sets && !member->lets && !member->sets) wanted.refuse(true);
+  use(target, object, member->name, [&](sd_bus_message* reply) {
+    if (wanted.sets) {
+      std::array value{read_value(target.call, *this)};
+      object.invoke(member->name, assignment_of(*member, value[0]), value);
+      return;
+    }
     const Value value = object.invoke(member->name, Access::Get, {});
-    check(sd_bus_message_open_container(reply.get(), 'v', signature_of(member->type)), "property");
-    Writer(reply.get(), *this).append(member->type, value);
-    check(sd_bus_message_close_container(reply.get()), "property");
-  }
-  send_reply(target.call, reply.get());
+    check(sd_bus_message_open_container(reply, 'v', signature_of(member->type)), "property");
+    Writer(reply, *this).append(member->type, value);
+    check(sd_bus_message_close_container(reply), "property");
+  });
 }
 
 void Worker::get_all(const PropertyCall& wanted, const Target& target, Object& object) {
@@ -159,7 +177,10 @@ void Worker::append_readable(sd_bus_message* reply, Writer& writer, const Member
   if (!is_shown(member)) return;
   Value value;
   try {
+    // Who looks at an object does not ask those of the script, which may not answer.
+    const Pump::Impatience impatience(pump_);
     value = object.invoke(member.name, Access::Get, {});
+    if (pump_.interrupted()) return;
     if (member.type != ValueType::Any) value = value.converted_to(member.type);
   } catch (const Error&) {
     return;  // One property that cannot be read now does not hide the others.
@@ -178,20 +199,20 @@ void Worker::append_readable(sd_bus_message* reply, Writer& writer, const Member
 
 void Worker::call_method(const Target& target, Object& object, const BusMethod& method) {
   const char* given = sd_bus_message_get_signature(target.call, 1);
-  if (!method.accepts(given != nullptr ? given : "")) refuse_signature(target.call, method.signature);
-  std::vector<Value> arguments = read_values(target.call, *this);
+  if (!method.accepts(given != nullptr ? given : "")) refuse_signature(target.call, method.expected());
   const MemberInfo& member = *method.member;
-  const Access access = method.assigns       ? assignment_of(member, arguments.back())
-                        : member.is_method() ? Access::Call
-                                             : Access::Get;
-  const Value result = object.invoke(member.name, access, arguments);
-  const Message reply = new_return(target.call);
-  Writer writer(reply.get(), *this);
-  if (method.has_result) writer.append(member.type, result);
-  for (const std::size_t i : method.by_reference) {
-    writer.append(method.in[i].type, i < arguments.size() ? arguments[i] : Value());
-  }
-  send_reply(target.call, reply.get());
+  use(target, object, member.name, [&](sd_bus_message* reply) {
+    std::vector<Value> arguments = read_values(target.call, *this);
+    const Access access = method.assigns       ? assignment_of(member, arguments.back())
+                          : member.is_method() ? Access::Call
+                                               : Access::Get;
+    const Value result = object.invoke(member.name, access, arguments);
+    Writer writer(reply, *this);
+    if (method.has_result) writer.append(member.type, result);
+    for (const std::size_t i : method.by_reference) {
+      writer.append(method.in[i].type, i < arguments.size() ? arguments[i] : Value());
+    }
+  });
 }
 
 void Worker::invoke(const Target& target, Object& object) {
@@ -199,13 +220,13 @@ void Worker::invoke(const Target& target, Object& object) {
   const std::string member = read_text(target.call);
   const Access access = access_of(read_text(target.call));
   check(sd_bus_message_enter_container(target.call, 'a', "v"), "arguments");
-  Value::Array arguments = read_values(target.call, *this);
-  const Value result = object.invoke(member, access, arguments);
-  const Message reply = new_return(target.call);
-  Writer writer(reply.get(), *this);
-  writer.append(ValueType::Any, result);
-  writer.append_all(arguments);
-  send_reply(target.call, reply.get());
+  use(target, object, member, [&](sd_bus_message* reply) {
+    Value::Array arguments = read_values(target.call, *this);
+    const Value result = object.invoke(member, access, arguments);
+    Writer writer(reply, *this);
+    writer.append(ValueType::Any, result);
+    writer.append_all(arguments);
+  });
 }
 
 }  // namespace vorlan::dbus

@@ -64,7 +64,20 @@ WorkerProcess::Child::~Child() {
   waitpid(process, nullptr, 0);
 }
 
-void WorkerProcess::kill() noexcept { ::kill(child_.process, SIGKILL); }
+void WorkerProcess::kill() noexcept {
+  if (child_.process < 0) return;
+  killed_ = true;
+  ::kill(child_.process, SIGKILL);
+}
+
+std::string WorkerProcess::wait() {
+  int status = 0;
+  const bool known = waitpid(child_.process, &status, 0) > 0;
+  child_.process = -1;
+  if (!known || killed_) return {};
+  if (WIFSIGNALED(status)) return "was ended by signal " + std::to_string(WTERMSIG(status));
+  return WEXITSTATUS(status) != 0 ? "ended with status " + std::to_string(WEXITSTATUS(status)) : std::string();
+}
 
 std::optional<Descriptor> watch_process(pid_t process) {
   // By its number: the C library's own function lacks C linkage in glibc 2.36.

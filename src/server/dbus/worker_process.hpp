@@ -40,6 +40,8 @@ class WorkerProcess {
   /// Becomes readable when the worker has ended.
   [[nodiscard]] const Descriptor& end() const noexcept { return end_; }
   void kill() noexcept;
+  /// Of a worker that has ended: how, where nobody meant it to; else nothing.
+  [[nodiscard]] std::string wait();
 
  private:
   struct Child {
@@ -53,6 +55,7 @@ class WorkerProcess {
   Child child_;
   Descriptor ready_;
   Descriptor end_;
+  bool killed_ = false;
 };
 
 /// Becomes readable when the process has ended. Nothing if there is no such process; a thread is none.
