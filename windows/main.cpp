@@ -25,8 +25,8 @@ constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
-constexpr const char* kHelp =
-    "Vorlan.exe: the automation server of the 1xEV-DO conformance test library.\r\n"
+constexpr const char* kHelp = VORLAN_VERSION
+    ": the automation server of the 1xEV-DO conformance test library.\r\n"
     "\r\n"
     "  /RegServer [/user]    enter its classes in the registry: for everybody (as administrator), or for this user\r\n"
     "  /UnregServer [/user]  take them out again, all that /RegServer entered\r\n"
@@ -48,12 +48,7 @@ void say(DWORD where, const std::string& text) {
   if (console != INVALID_HANDLE_VALUE) CloseHandle(console);
 }
 
-Registry all_classes() {
-  const auto own = class_tables();
-  std::vector<ClassTable> tables(own.begin(), own.end());
-  tables.push_back({"VorlanSim", simulator::classes()});
-  return Registry(tables);
-}
+Registry all_classes() { return Registry(simulator::with_simulator(class_tables())); }
 
 Platform platform_with(std::shared_ptr<Clock> clock) {
   Platform platform = native_platform();
@@ -68,23 +63,21 @@ std::filesystem::path own_path() {
   return path;
 }
 
-/// Switches, without their "/" or "-".
-std::vector<std::string> switches() {
+std::vector<std::string> words_given() {
   int count = 0;
   LPWSTR* words = CommandLineToArgvW(GetCommandLineW(), &count);
   std::vector<std::string> result;
-  for (int i = 1; i < count; ++i) {
-    std::string word = narrow_text(words[i]);
-    word.erase(0, word.find_first_not_of("/-"));
-    result.push_back(word);
-  }
+  for (int i = 1; i < count; ++i) result.push_back(narrow_text(words[i]));
   LocalFree(words);
   return result;
 }
 
 int run(const std::vector<std::string>& words) {
   const auto is = [&](std::size_t i, std::string_view name) {
-    return words.size() > i && equals_ignoring_case(words[i], name);
+    if (words.size() <= i) return false;
+    const std::string_view word = words[i];
+    const bool is_switch = word.starts_with('/') || word.starts_with('-');
+    return is_switch && equals_ignoring_case(word.substr(word.starts_with("--") ? 2 : 1), name);
   };
   const Registry registry = all_classes();
   if (words.size() == 1 && is(0, "Embedding")) {
@@ -98,14 +91,19 @@ int run(const std::vector<std::string>& words) {
     enters ? com::register_server(registry, registration) : com::unregister_server(registry, registration);
     return kDone;
   }
-  const bool asked = words.size() == 1 && (is(0, "help") || is(0, "?"));
-  say(asked ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE, kHelp);
-  return asked ? kDone : kWrongUsage;
+  if (words.size() == 1 && (is(0, "help") || is(0, "?"))) {
+    say(STD_OUTPUT_HANDLE, kHelp);
+    return kDone;
+  }
+  std::string given;
+  for (const std::string& word : words) given.append(" ").append(word);
+  say(STD_ERROR_HANDLE, (given.empty() ? "Nothing to do" : "Not known:" + given) + "\r\n\r\n" + kHelp);
+  return kWrongUsage;
 }
 
 }  // namespace
 
-int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) try { return run(switches()); } catch (const Error& error) {
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) try { return run(words_given()); } catch (const Error& error) {
   say(STD_ERROR_HANDLE, "Vorlan: " + error.description() + "\r\n");
   return kFailed;
 } catch (const std::exception& error) {

@@ -14,6 +14,12 @@ Holds "arrays", InStr(report.Text, "Two") > 0
 Equal "a Byte", functions.LongToBin(CByte(200), 8), "11001000"
 Equal "a Currency", functions.DecToBin(CCur(2.5), 8), "00000010"
 Equal "a Date", TypeName(CreateObject("Vorlan.SB_Sector").PRdte_ConnReqReceivedTime), "Date"
+Set report = CreateObject("Vorlan.SB_Ses_MsgSessionClose")
+On Error Resume Next
+bits = report.PRstr_CloseReason("x")
+Raised "more arguments than a property has", 450, "SB_Ses_MsgSessionClose.PRstr_CloseReason", _
+  "Wrong number of arguments or invalid property assignment"
+On Error Goto 0
 started = Timer
 testSet.Sleep 20
 Holds "simulated waits pass at once", Timer - started < 20

@@ -142,7 +142,9 @@ void errors() {
   holds("its text", view(message.information.bstrDescription) == L"Length of <CloseReason> field should be 8 bits.");
   SysFreeString(bits.bstrVal);
   const auto supports = message.object.as<ISupportErrorInfo>(IID_ISupportErrorInfo);
-  holds("error information", supports && supports->InterfaceSupportsErrorInfo(IID_IDispatch) == S_OK);
+  for (const GUID& iid : {IID_IDispatch, guid_of(members_uuid("Vorlan.SB_Ses_MsgSessionClose"))}) {
+    holds("error information", supports && supports->InterfaceSupportsErrorInfo(iid) == S_OK);
+  }
 }
 
 void arrays(LateBound& functions) {
@@ -161,6 +163,30 @@ void arrays(LateBound& functions) {
   SafeArrayDestroy(names);
 }
 
+bool is_named(ITypeInfo& info, std::wstring_view wanted) {
+  BSTR name = nullptr;
+  info.GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
+  const bool is = view(name) == wanted;
+  SysFreeString(name);
+  return is;
+}
+
+/// What was compiled with the library goes through a collection by this.
+void enumeration_in_library() {
+  ComPointer<ITypeLib> library;
+  ComPointer<ITypeInfo> info;
+  WORD flags = 0;
+  if (LoadRegTypeLib(guid_of(library_uuid("VorlanSim")), 1, 0, LOCALE_NEUTRAL, library.out()) == S_OK &&
+      library->GetTypeInfoOfGuid(guid_of(members_uuid("VorlanSim.ChannelCollection")), info.out()) == S_OK) {
+    FUNCDESC* found = nullptr;
+    for (UINT i = 0; info->GetFuncDesc(i, &found) == S_OK; ++i) {
+      if (found->memid == DISPID_NEWENUM && found->elemdescFunc.tdesc.vt == VT_UNKNOWN) flags = found->wFuncFlags;
+      info->ReleaseFuncDesc(found);
+    }
+  }
+  holds("a collection can be gone through", flags == (FUNCFLAG_FRESTRICTED | FUNCFLAG_FHIDDEN));
+}
+
 void type_library(LateBound& functions) {
   ComPointer<ITypeLib> library;
   holds("registered", LoadRegTypeLib(guid_of(library_uuid("Vorlan")), 1, 0, LOCALE_NEUTRAL, library.out()) == S_OK);
@@ -173,10 +199,11 @@ void type_library(LateBound& functions) {
   holds("by its number", compiled && compiled->GetTypeInfoCount(&infos) == S_OK && infos == 1);
   holds("of an object", functions.object->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.out()) == S_OK);
   if (!info) return;
-  BSTR name = nullptr;
-  info->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
-  holds("its name", view(name) == L"_SB_GeneralFunctions");
-  SysFreeString(name);
+  holds("its name", is_named(*info.get(), L"_SB_GeneralFunctions"));
+  ComPointer<ITypeInfo> created;
+  const auto provides = functions.object.as<IProvideClassInfo>(IID_IProvideClassInfo);
+  holds("its class",
+        provides && provides->GetClassInfo(created.out()) == S_OK && is_named(*created.get(), L"SB_GeneralFunctions"));
   // From the file: its names are not asked for across processes.
   holds("the members",
         library->GetTypeInfoOfGuid(guid_of(members_uuid("Vorlan.SB_GeneralFunctions")), info.out()) == S_OK);
@@ -189,7 +216,6 @@ void type_library(LateBound& functions) {
   holds("its parameters", info->GetNames(id, members.data(), 3, &count) == S_OK && count == 3 &&
                               view(members[1]) == L"value" && view(members[2]) == L"width");
   for (BSTR text : members) SysFreeString(text);
-  ComPointer<ITypeInfo> created;
   holds("the class", library->GetTypeInfoOfGuid(guid_of(class_uuid("Vorlan.SB_Sector")), created.out()) == S_OK);
 }
 
@@ -259,6 +285,77 @@ class Wrapper final : public IDispatch {
   std::atomic<ULONG> references_{1};
 };
 
+/// Knows every name. From a certain call on, or where it is given references, it answers otherwise than with success.
+class Peer final : public IDispatch {
+ public:
+  explicit Peer(HRESULT refusal, SCODE scode = 0, int refuses_from = 1, bool plain_alone = false)
+      : refusal_(refusal), scode_(scode), refuses_from_(refuses_from), plain_alone_(plain_alone) {}
+  virtual ~Peer() = default;
+  [[nodiscard]] int calls() const noexcept { return calls_; }
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) noexcept override {
+    const bool known = IsEqualGUID(iid, IID_IUnknown) != 0 || IsEqualGUID(iid, IID_IDispatch) != 0;
+    *out = known ? this : nullptr;
+    return known ? S_OK : E_NOINTERFACE;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return 2; }
+  ULONG STDMETHODCALLTYPE Release() noexcept override { return 1; }
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override { return *count = 0, S_OK; }
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return DISP_E_BADINDEX; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID* id) noexcept override {
+    return *id = 1, S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO* information,
+                                   UINT*) noexcept override {
+    ++calls_;
+    const bool refuses = plain_alone_ ? (parameters->rgvarg[0].vt & VT_BYREF) != 0 : calls_ >= refuses_from_;
+    if (refuses && information != nullptr) information->scode = scode_;
+    return refuses ? refusal_ : S_OK;
+  }
+
+ private:
+  HRESULT refusal_;
+  SCODE scode_;
+  int refuses_from_;
+  bool plain_alone_;
+  std::atomic<int> calls_ = 0;
+};
+
+/// The library calls it once for each of two lines.
+HRESULT log_to(LateBound& functions, Peer& peer) {
+  Variant text;
+  text->bstrVal = SysAllocString(L"first\nsecond");
+  text->vt = VT_BSTR;
+  const HRESULT result = functions.invoke(L"LogInformation", DISPATCH_METHOD, {object_value(&peer), *text});
+  CoDisconnectObject(&peer, 0);
+  return result;
+}
+
+void calls_of_peers(LateBound& functions) {
+  for (const HRESULT refusal : {DISP_E_TYPEMISMATCH, DISP_E_BADVARTYPE, DISP_E_MEMBERNOTFOUND}) {
+    Peer acts_and_refuses(refusal, 0, 2);
+    holds("a call is not made twice",
+          log_to(functions, acts_and_refuses) == DISP_E_EXCEPTION && acts_and_refuses.calls() == 2);
+  }
+  Peer plain(DISP_E_TYPEMISMATCH, 0, 1, true);
+  holds("plain values are what it wants from then on", log_to(functions, plain) == S_OK && plain.calls() == 3);
+  struct Row {
+    HRESULT result;
+    SCODE scode;
+    SCODE told;
+    std::wstring_view text;
+  };
+  constexpr auto kNumberZero = static_cast<SCODE>(0x800A0000);
+  for (const Row& row : {Row{DISP_E_EXCEPTION, 0, DISP_E_EXCEPTION, {}},
+                         Row{DISP_E_EXCEPTION, kNumberZero, kNumberZero, L"Automation error"},
+                         Row{DISP_E_EXCEPTION, scode_of(9), scode_of(9), L"Subscript out of range"},
+                         Row{scode_of(9), 0, scode_of(9), L"Subscript out of range"}}) {
+    Peer fails(row.result, row.scode);
+    holds("an error keeps its number", log_to(functions, fails) == DISP_E_EXCEPTION &&
+                                           functions.information.scode == row.told && functions.information.wCode == 0);
+    holds("and has a text", row.text.empty() || view(functions.information.bstrDescription) == row.text);
+  }
+}
+
 /// The server waits for nobody with the client's turn in its hands.
 void calls_back(LateBound& functions) {
   LateBound inner(L"Vorlan.SB_GeneralFunctions");
@@ -294,8 +391,10 @@ int main() try {
   errors();
   arrays(functions);
   type_library(functions);
+  enumeration_in_library();
   two_threads();
   calls_back(functions);
+  calls_of_peers(functions);
   std::printf("%d checks, %d failed\n", checks, failures);
   return failures == 0 && checks > 0 ? 0 : 1;
 } catch (const Error& error) {

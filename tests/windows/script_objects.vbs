@@ -85,4 +85,11 @@ sent.CreateMessage New Refusing
 ' The host may keep the source and the text of it to itself.
 Equal "the script's own error", Err.Number, -2147221503
 Err.Clear
+sent.PRstr_CloseReason = "00000101"
+sent.PRstr_MoreInfoLen = "00001100"
+sent.PRstr_MoreInfo = String(96, "0")
+sent.CreateMessage own
+Equal "an error in the script's object", Err.Number, 9
+Equal "its text", Err.Description, "Subscript out of range"
+Err.Clear
 On Error Goto 0

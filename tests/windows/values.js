@@ -36,5 +36,18 @@ var lines = [];
 functions.LogInformation({ addtext: function (text) { lines.push(text); } }, "first\nsecond");
 equal("a script's function is called", lines.join("|"), "first|second");
 
+// A script's array is one, but not everything that has a length.
+functions.LogScriptSpecificParameters({ addtext: function (text) { lines.push(text); } }, ["One", "Two"], ["1", 2]);
+equal("arrays", lines.join("|").indexOf("Two") > 0, true);
+var terminal = (new ActiveXObject("VorlanSim.TestSet")).AccessTerminal;
+terminal.ConfigurationOrder = [18, 19];
+equal("an array is assigned", new VBArray(terminal.ConfigurationOrder).toArray().join(), "18,19");
+try {
+  terminal.ConfigurationOrder = { length: 1, 0: 18 };
+  equal("no array", false, true);
+} catch (error) {
+  equal("no array", error.number & 0xFFFF, 13);
+}
+
 WScript.Echo(checks + " checks, " + failures + " failed");
 if (failures > 0 || checks === 0) WScript.Quit(1);

@@ -4,6 +4,7 @@
 
 #include "automation/error.hpp"
 #include "server/com/foreign_object.hpp"
+#include "server/com/script_array.hpp"
 
 namespace vorlan::com {
 
@@ -15,8 +16,8 @@ CallArguments::CallArguments(const MemberInfo& member, const DISPPARAMS& paramet
     ValueType due = ValueType::Any;
     if (i < indices_) {
       if (i < member.parameters.size()) due = member.parameters[i].type;
-    } else if ((kind & DISPATCH_PROPERTYPUT) != 0) {
-      due = member.type;
+    } else {
+      due = (kind & DISPATCH_PROPERTYPUT) != 0 ? member.type : ValueType::Object;
     }
     values_.push_back(given_[i] != nullptr ? value_of(*given_[i], due) : Value());
     if (!goes_back(i)) continue;
@@ -67,10 +68,15 @@ Value CallArguments::value_of(const VARIANT& given, ValueType due) {
   Value value = to_value(given, objects_);
   if (due == ValueType::Object && value.is(ValueType::Null)) return Ref<Object>();
   const bool is_plain = due >= ValueType::Boolean && due <= ValueType::String;
+  const bool may_be_array = due == ValueType::Any || due == ValueType::Array;
   const auto* object = value.as<Ref<Object>>();
-  if (!is_plain || object == nullptr) return value;
-  if (auto* foreign = dynamic_cast<ForeignObject*>(object->get())) {
+  auto* const foreign = object != nullptr ? dynamic_cast<ForeignObject*>(object->get()) : nullptr;
+  if (foreign == nullptr) return value;
+  if (is_plain) {
     if (std::optional<Value> meant = foreign->default_value()) return *std::move(meant);
+  } else if (may_be_array) {
+    if (std::optional<Value::Array> elements = script_array(*foreign->dispatch(), objects_))
+      return *std::move(elements);
   }
   return value;
 }

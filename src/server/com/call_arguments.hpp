@@ -13,7 +13,8 @@ namespace vorlan::com {
 /// left out at the end is not there; what was left out before is Empty if it is optional. Error 450 for another one
 /// left out, and for a name that is not a parameter's.
 ///
-/// Where an object is due, Null is Nothing; where anything else is, the default property of an object outside is meant.
+/// Where an object is due, Null is Nothing; where a number, date or text is, the default property of an object outside
+/// is meant, and where anything is, the elements of a script engine's own array.
 class CallArguments {
  public:
   CallArguments(const MemberInfo& member, const DISPPARAMS& parameters, WORD kind, Objects& objects);

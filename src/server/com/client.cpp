@@ -53,6 +53,7 @@ void Clients::stop_watching(Process& process, HANDLE completion) noexcept {
 
 Client& Clients::of_this_call() {
   DWORD id = 0;
+  // RpcServerInqCallAttributes tells it, too, but is missing in Wine.
   if (I_RpcBindingInqLocalClientPID(nullptr, &id) != RPC_S_OK) id = 0;
   const std::scoped_lock guard(mutex_);
   const auto known = processes_.find(id);

@@ -89,7 +89,8 @@ class Clients {
   std::mutex mutex_;
   std::map<DWORD, std::unique_ptr<Process>> processes_;
   std::vector<DWORD> ended_;
-  /// Objects may outlive the client that made them, having been handed to another: their platform stays.
+  /// They stay as long as the server does, a kilobyte each: objects may outlive the client that made them, having been
+  /// handed to another, and need their platform.
   std::vector<std::unique_ptr<Client>> all_;
 };
 

@@ -28,6 +28,26 @@ constexpr HRESULT kGone[] = {RPC_E_DISCONNECTED, RPC_E_SERVER_DIED, RPC_E_SERVER
                              static_cast<HRESULT>(0x800706BA),   // RPC_S_SERVER_UNAVAILABLE
                              static_cast<HRESULT>(0x800706BE)};  // RPC_S_CALL_FAILED
 
+/// The system's text without the line's end; empty if it has none.
+std::string known_text(HRESULT result) {
+  wchar_t* made = nullptr;
+  const DWORD size =
+      FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                     nullptr, static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(&made), 0, nullptr);
+  std::string text = narrow_text({made, size});
+  LocalFree(made);
+  while (!text.empty() && (text.back() == '\r' || text.back() == '\n' || text.back() == ' ')) text.pop_back();
+  return text;
+}
+
+/// Of an error that came without a text.
+std::string description_of(std::int32_t number) {
+  const bool is_automations = number >= 1 && number <= 0xFFFF;
+  if (is_automations) return std::string(standard_description(static_cast<ErrorNumber>(number)));
+  const std::string text = known_text(number);
+  return text.empty() ? "Automation error" : "Automation error: " + text;
+}
+
 std::string taken(BSTR& text) {
   std::string result = narrow_text(view(text));
   SysFreeString(std::exchange(text, nullptr));
@@ -57,7 +77,8 @@ SCODE scode_of(std::int32_t number) noexcept {
 
 std::int32_t number_of(SCODE scode) noexcept {
   const auto bits = static_cast<std::uint32_t>(scode);
-  return (bits & 0xFFFF0000) == kAutomationFacility ? static_cast<std::int32_t>(bits & 0xFFFFU) : scode;
+  const bool is_automations = bits > kAutomationFacility && bits <= (kAutomationFacility | 0xFFFFU);
+  return is_automations ? static_cast<std::int32_t>(bits & 0xFFFFU) : scode;
 }
 
 HRESULT tell(const Error& error, EXCEPINFO* information) noexcept {
@@ -79,9 +100,11 @@ Error error_of(HRESULT result, EXCEPINFO& information, std::string_view source) 
   if (result == DISP_E_EXCEPTION) {
     if (information.pfnDeferredFillIn != nullptr) information.pfnDeferredFillIn(&information);
     const std::string its_source = taken(information.bstrSource);
-    const std::string description = taken(information.bstrDescription);
+    std::string description = taken(information.bstrDescription);
     const std::string help_file = taken(information.bstrHelpFile);
-    const std::int32_t number = information.wCode != 0 ? information.wCode : number_of(information.scode);
+    std::int32_t number = information.wCode != 0 ? information.wCode : number_of(information.scode);
+    if (number == 0) number = result;  // an error without a number is none to a client
+    if (description.empty()) description = description_of(number);
     return {number, its_source.empty() ? source : std::string_view(its_source), description, help_file};
   }
   for (const auto& [code, number] : kRules) {
@@ -90,19 +113,13 @@ Error error_of(HRESULT result, EXCEPINFO& information, std::string_view source) 
   for (const HRESULT gone : kGone) {
     if (gone == result) return {kServerGone, source, "The remote server machine does not exist or is unavailable"};
   }
-  return {number_of(result), source, "Automation error: " + system_text(result)};
+  const std::int32_t number = number_of(result);
+  return {number, source, description_of(number)};
 }
 
 std::string system_text(HRESULT result) {
-  wchar_t* made = nullptr;
-  const DWORD size =
-      FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                     nullptr, static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(&made), 0, nullptr);
-  std::string text = narrow_text({made, size});
-  LocalFree(made);
-  while (!text.empty() && (text.back() == '\r' || text.back() == '\n' || text.back() == ' ')) text.pop_back();
-  if (text.empty()) text = "system error " + std::to_string(result);
-  return text;
+  std::string text = known_text(result);
+  return text.empty() ? "system error " + std::to_string(result) : text;
 }
 
 void fail(HRESULT result, std::string_view what) {

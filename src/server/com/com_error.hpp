@@ -30,7 +30,7 @@ inline void check(HRESULT result, std::string_view what) {
 }
 inline void check_status(LSTATUS status, std::string_view what) { check(HRESULT_FROM_WIN32(status), what); }
 
-/// The system's own text, without the line's end.
+/// The system's own text, or the number where it has none.
 std::string system_text(HRESULT result);
 
 }  // namespace vorlan::com

@@ -8,12 +8,6 @@
 
 namespace vorlan::com {
 
-bool ServedObject::is_collection() const noexcept {
-  const int item = info_.find(PreparedName("Item"));
-  return item >= 0 && info_.find(PreparedName("Count")) >= 0 &&
-         info_.members()[static_cast<std::size_t>(item)].parameters.size() == 1;
-}
-
 HRESULT ServedObject::enumerate(VARIANT& enumeration) noexcept {
   IEnumVARIANT* made = nullptr;
   const HRESULT result = Clone(&made);
@@ -56,6 +50,7 @@ HRESULT ServedObject::Next(ULONG count, VARIANT* items, ULONG* given) noexcept {
     if (made < count) result = S_FALSE;
   } catch (const Error& error) {
     result = scode_of(error.number());
+    if (SUCCEEDED(result)) result = E_FAIL;
   } catch (const std::exception&) {
     result = E_OUTOFMEMORY;
   }

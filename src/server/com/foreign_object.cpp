@@ -48,9 +48,6 @@ class Arguments {
   Variant result_;
 };
 
-// {a6ef9860-c720-11d0-9337-00a0c90dcaa9}; not every compiler's libraries have it.
-constexpr IID kExtended{0xA6EF9860, 0xC720, 0x11D0, {0x93, 0x37, 0x00, 0xA0, 0xC9, 0x0D, 0xCA, 0xA9}};
-
 std::string class_of(IDispatch& dispatch) {
   const Pause others_meanwhile;
   ComPointer<ITypeInfo> info;
@@ -70,7 +67,7 @@ ForeignObject::ForeignObject(ComPointer<IDispatch> dispatch, Objects& objects) n
     : dispatch_(std::move(dispatch)), objects_(objects) {}
 ForeignObject::~ForeignObject() { Turn::release_after(ComPointer<IUnknown>(dispatch_.detach())); }
 
-ComPointer<IDispatchEx> ForeignObject::extended() const { return dispatch_.as<IDispatchEx>(kExtended); }
+ComPointer<IDispatchEx> ForeignObject::extended() const { return dispatch_.as<IDispatchEx>(kExtendedDispatch); }
 
 HRESULT ForeignObject::ask_for(const std::wstring& name, Member& member) {
   const Pause others_meanwhile;
@@ -93,11 +90,12 @@ ForeignObject::Member ForeignObject::find(std::string_view name) {
     const auto known = members_.find(name);
     if (known != members_.end()) return known->second;
   }
-  Member member{DISPID_UNKNOWN, false};
+  Member member;
   const HRESULT result = ask_for(wide_text(name), member);
   // The default member is known by its number, whatever it is called.
-  if (FAILED(result) && equals_ignoring_case(name, "Item")) return {DISPID_VALUE, false};
-  if (FAILED(result)) {
+  if (FAILED(result) && equals_ignoring_case(name, "Item")) {
+    member = {.id = DISPID_VALUE};
+  } else if (FAILED(result)) {
     EXCEPINFO none{};
     if (result == DISP_E_UNKNOWNNAME || result == E_NOTIMPL || result == DISP_E_MEMBERNOTFOUND) {
       throw Error(ErrorNumber::MemberNotFound, class_of(*dispatch_.get()), name);
@@ -108,8 +106,14 @@ ForeignObject::Member ForeignObject::find(std::string_view name) {
   return members_.emplace(name, member).first->second;
 }
 
+void ForeignObject::settle(std::string_view name, const Member& member) {
+  const std::scoped_lock guard(mutex_);
+  takes_references_ = takes_references_ || member.by_reference == true;
+  members_.insert_or_assign(std::string(name), member);
+}
+
 HRESULT ForeignObject::call(const Member& member, WORD kind, DISPPARAMS& parameters, Variant& result,
-                            EXCEPINFO& information) {
+                            EXCEPINFO& information, UINT& bad_argument) {
   const bool assigns = (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
   VARIANT* answer = assigns ? nullptr : result.get();
   const Pause others_meanwhile;
@@ -118,15 +122,13 @@ HRESULT ForeignObject::call(const Member& member, WORD kind, DISPPARAMS& paramet
     if (!other) return E_NOINTERFACE;
     return other->InvokeEx(member.id, LOCALE_USER_DEFAULT, kind, &parameters, answer, &information, nullptr);
   }
-  UINT bad_argument = 0;
   return dispatch_->Invoke(member.id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, answer, &information,
                            &bad_argument);
 }
 
-/// A server may know only one of several kinds of access that mean the same to a client.
-HRESULT ForeignObject::try_kinds(const Member& member, Access access, DISPPARAMS& parameters, Variant& result,
-                                 EXCEPINFO& information) {
-  const auto kinds = [&]() -> std::array<WORD, 2> {
+HRESULT ForeignObject::try_kinds(Member& member, Access access, DISPPARAMS& parameters, Variant& result,
+                                 EXCEPINFO& information, UINT& bad_argument) {
+  const auto kinds = [&]() -> Kinds {
     constexpr WORD kEither = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
     switch (access) {
       case Access::Let: return {DISPATCH_PROPERTYPUT, DISPATCH_PROPERTYPUTREF};
@@ -138,36 +140,56 @@ HRESULT ForeignObject::try_kinds(const Member& member, Access access, DISPPARAMS
     if (parameters.cArgs == 0) return {DISPATCH_PROPERTYGET, kEither};
     return {kEither, DISPATCH_PROPERTYGET};
   }();
-  const HRESULT first = call(member, kinds[0], parameters, result, information);
+  const bool by_index = access == Access::Get && parameters.cArgs > 0;
+  std::optional<int>& settled = by_index ? member.indexed_get : member.kind[static_cast<std::size_t>(access)];
+  const auto with = [&](int kind) {
+    return call(member, kinds[static_cast<std::size_t>(kind)], parameters, result, information, bad_argument);
+  };
+  if (settled) return with(*settled);
+  settled = 0;
+  const HRESULT first = with(0);
   if (first != DISP_E_MEMBERNOTFOUND) return first;
-  return call(member, kinds[1], parameters, result, information);
+  const HRESULT second = with(1);
+  if (second != DISP_E_MEMBERNOTFOUND) settled = 1;
+  return second;
 }
 
 Value ForeignObject::invoke(std::string_view member, Access access, std::span<Value> arguments) {
-  const Member found = find(member);
+  Member found = find(member);
+  const Member before = found;
   const bool assigns = access == Access::Let || access == Access::Set;
   EXCEPINFO information{};
   DISPID value_name = DISPID_PROPERTYPUT;
-  HRESULT status = E_FAIL;
-  for (const bool by_reference : {access == Access::Call, false}) {
+  for (bool by_reference = access == Access::Call && !arguments.empty() && found.by_reference != false;;) {
     Arguments passed(arguments, by_reference, objects_);
     DISPPARAMS parameters{passed.passed().data(), assigns ? &value_name : nullptr, static_cast<UINT>(arguments.size()),
                           assigns ? 1U : 0U};
-    status = try_kinds(found, access, parameters, passed.result(), information);
-    // A server that wants plain values has refused before it did anything.
-    if (by_reference && (status == DISP_E_TYPEMISMATCH || status == DISP_E_BADVARTYPE)) continue;
+    UINT bad_argument = UINT_MAX;
+    const HRESULT status = try_kinds(found, access, parameters, passed.result(), information, bad_argument);
+    const bool refused = status == DISP_E_TYPEMISMATCH || status == DISP_E_BADVARTYPE;
+    if (by_reference && !found.by_reference) {
+      if (SUCCEEDED(status) || status == DISP_E_EXCEPTION) found.by_reference = true;
+      if (refused && !found.extended && (bad_argument != UINT_MAX || !takes_references())) {
+        found.by_reference = by_reference = false;
+        continue;
+      }
+    } else if (found.by_reference == false && before.by_reference != false) {
+      found.by_reference = refused;  // whichever way: that is not what it refuses
+    }
+    if (!(found == before)) settle(member, found);
     if (by_reference) passed.take_back(arguments);
     if (SUCCEEDED(status)) return to_value(*passed.result(), objects_);
-    break;
+    throw error_of(status, information, class_of(*dispatch_.get()).append(".").append(member));
   }
-  throw error_of(status, information, class_of(*dispatch_.get()).append(".").append(member));
 }
 
 std::optional<Value> ForeignObject::default_value() {
   Arguments none({}, false, objects_);
   EXCEPINFO information{};
   DISPPARAMS parameters{};
-  const HRESULT status = try_kinds({DISPID_VALUE, false}, Access::Get, parameters, none.result(), information);
+  Member value{.id = DISPID_VALUE};
+  UINT bad_argument = 0;
+  const HRESULT status = try_kinds(value, Access::Get, parameters, none.result(), information, bad_argument);
   if (SUCCEEDED(status)) return to_value(*none.result(), objects_);
   if (status == DISP_E_EXCEPTION) throw error_of(status, information, class_of(*dispatch_.get()));
   return {};

@@ -48,7 +48,7 @@ ComPointer<ITypeInfo> Host::type_info(const ClassInfo& info, Uuid (*number)(std:
 
 void Host::add(ServedObject& face) {
   const std::scoped_lock guard(mutex_);
-  faces_.insert(&face);
+  faces_.emplace(static_cast<IDispatch*>(&face), &face);
 }
 
 void Host::add_object(ServedObject& face, const Object& object) {
@@ -58,7 +58,7 @@ void Host::add_object(ServedObject& face, const Object& object) {
 
 void Host::remove(ServedObject& face, const Object* object) noexcept {
   const std::scoped_lock guard(mutex_);
-  faces_.erase(&face);
+  faces_.erase(static_cast<IDispatch*>(&face));
   const auto found = by_object_.find(object);
   // Another face may have taken the place while this one was going.
   if (found != by_object_.end() && found->second == &face) by_object_.erase(found);
@@ -66,15 +66,13 @@ void Host::remove(ServedObject& face, const Object* object) noexcept {
 
 Ref<Object> Host::object_of(IUnknown* unknown, Client& client) {
   if (unknown == nullptr) return {};
-  // IDispatch is what our objects answer to IUnknown with.
-  auto* const may_be_own = static_cast<IDispatch*>(unknown);
-  bool own = false;
+  ServedObject* own = nullptr;
   {
     const std::scoped_lock guard(mutex_);
-    own = faces_.count(may_be_own) != 0;
+    const auto found = faces_.find(unknown);
+    if (found != faces_.end()) own = found->second;
   }
-  if (own) return static_cast<ServedObject*>(may_be_own)->object(client);
-  return foreign_object_of(*unknown, client);
+  return own != nullptr ? own->object(client) : foreign_object_of(*unknown, client);
 }
 
 IDispatch* Host::face_of(const Ref<Object>& object, Client& client) {
@@ -87,7 +85,7 @@ IDispatch* Host::face_of(const Ref<Object>& object, Client& client) {
   const auto known = by_object_.find(object.get());
   if (known != by_object_.end() && known->second->add_reference_if_alive()) return known->second;
   auto* face = new ServedObject(*this, client, object, ids);
-  faces_.insert(face);
+  faces_.emplace(static_cast<IDispatch*>(face), face);
   by_object_[object.get()] = face;
   return face;
 }
@@ -97,8 +95,7 @@ void Host::clear_up() {
     std::vector<ComPointer<IDispatch>> left;
     {
       const std::scoped_lock guard(mutex_);
-      for (IDispatch* dispatch : faces_) {
-        auto* face = static_cast<ServedObject*>(dispatch);
+      for (const auto& [unknown, face] : faces_) {
         if (face->is_of(*client) && face->add_reference_if_alive()) left.emplace_back(face);
       }
     }

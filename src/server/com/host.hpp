@@ -2,7 +2,6 @@
 #pragma once
 
 #include <unordered_map>
-#include <unordered_set>
 
 #include "automation/registry.hpp"
 #include "server/com/client.hpp"
@@ -56,7 +55,7 @@ class Host final : private Directory {
   std::unique_ptr<std::remove_pointer_t<HANDLE>, Closing> wake_;
   Clients clients_;
   std::mutex mutex_;
-  std::unordered_set<IDispatch*> faces_;
+  std::unordered_map<const IUnknown*, ServedObject*> faces_;  // by what each answers to IUnknown with
   std::unordered_map<const Object*, ServedObject*> by_object_;
   std::unordered_map<const ClassInfo*, ClassIds> ids_;
   std::unordered_map<std::string_view, ComPointer<ITypeLib>> libraries_;

@@ -55,6 +55,12 @@ std::int32_t member_id(std::string_view name) {
   return static_cast<std::int32_t>((bits & 0x3FFFFFFFU) | 0x40000000U);
 }
 
+bool is_collection(const ClassInfo& info) noexcept {
+  const int item = info.find(PreparedName("Item"));
+  return item >= 0 && info.find(PreparedName("Count")) >= 0 &&
+         info.members()[static_cast<std::size_t>(item)].parameters.size() == 1;
+}
+
 MemberIds::MemberIds(const ClassInfo& info) {
   for (const MemberInfo& member : info.members()) {
     const auto index = static_cast<int>(ids_.size());

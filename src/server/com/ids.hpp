@@ -31,6 +31,9 @@ Uuid library_uuid(std::string_view server);
 /// client means who names none: 0.
 std::int32_t member_id(std::string_view name);
 
+/// Whether For Each goes through objects of the class: it has `Count` and an `Item` that takes numbers from 1 on.
+bool is_collection(const ClassInfo& info) noexcept;
+
 /// The DISPIDs of one class, both ways. Throws std::logic_error if two of its members have the same one.
 class MemberIds {
  public:

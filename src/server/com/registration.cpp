@@ -35,14 +35,15 @@ class ClassesKey {
   [[nodiscard]] HKEY root() const noexcept { return root_; }
   /// The own value of a key below Software\Classes; empty if there is none.
   [[nodiscard]] static std::string read(HKEY root, const std::string& path) {
-    std::wstring text(1024, L'\0');
-    auto octets = static_cast<DWORD>(text.size() * sizeof(wchar_t));
-    if (RegGetValueW(root, wide_text("Software\\Classes\\" + path).c_str(), nullptr, RRF_RT_REG_SZ, nullptr,
-                     text.data(), &octets) != ERROR_SUCCESS) {
-      return {};
+    std::wstring text;
+    LSTATUS status = ERROR_MORE_DATA;
+    for (DWORD octets = 1024; status == ERROR_MORE_DATA;) {
+      text.resize(octets / sizeof(wchar_t) + 1);
+      octets = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+      status = RegGetValueW(root, wide_text("Software\\Classes\\" + path).c_str(), nullptr, RRF_RT_REG_SZ, nullptr,
+                            text.data(), &octets);
     }
-    text.resize(octets / sizeof(wchar_t) - 1);
-    return narrow_text(text);
+    return status == ERROR_SUCCESS ? narrow_text(text.c_str()) : std::string();
   }
   void remove(const std::string& path) {
     const LSTATUS status = RegDeleteTreeW(key_, wide_text(path).c_str());
@@ -128,39 +129,97 @@ std::filesystem::path library_folder(const Registration& registration) {
   return folder / "Vorlan";
 }
 
-std::filesystem::path library_file(const Registration& registration, const std::string& server) {
-  return library_folder(registration) / (server + ".tlb");
+/// The name that a library has unless programs hold the one that had it before: then it has one of the others.
+std::filesystem::path library_file(const Registration& registration, const std::string& server, int other = 0) {
+  return library_folder(registration) / (server + (other == 0 ? "" : "-" + std::to_string(other)) + ".tlb");
+}
+constexpr int kOtherNames = 9;
+
+/// A library that is written, but not at its place yet. Goes with this.
+class NewLibrary {
+ public:
+  NewLibrary(const Registry& registry, const Registration& registration, std::string server)
+      : registration_(registration), server_(std::move(server)), file_(library_file(registration, server_)) {
+    file_ += ".new";
+    std::filesystem::create_directories(file_.parent_path());
+    try {
+      write_type_library(file_, server_, registry.classes());
+    } catch (const Error&) {
+      remove();
+      throw;
+    }
+  }
+  NewLibrary(NewLibrary&& other) noexcept
+      : registration_(other.registration_), server_(std::move(other.server_)), file_(std::exchange(other.file_, {})) {}
+  NewLibrary& operator=(NewLibrary&&) = delete;
+  ~NewLibrary() { remove(); }
+  [[nodiscard]] const std::string& server() const noexcept { return server_; }
+  std::filesystem::path put_in_place() {
+    std::error_code fault;
+    for (int other = 0; other <= kOtherNames; ++other) {
+      const auto place = library_file(registration_, server_, other);
+      std::filesystem::rename(file_, place, fault);
+      if (!fault) return place;
+    }
+    throw std::filesystem::filesystem_error("type library", file_, fault);
+  }
+
+ private:
+  void remove() noexcept {
+    std::error_code ignored;
+    if (!file_.empty()) std::filesystem::remove(file_, ignored);
+  }
+
+  const Registration& registration_;
+  std::string server_;
+  std::filesystem::path file_;
+};
+
+std::string library_key(const std::string& server) { return "TypeLib\\" + registry_text(library_uuid(server)); }
+std::string library_version() { return std::to_string(kLibraryMajor) + "." + std::to_string(kLibraryMinor); }
+
+/// What RegisterTypeLib does for the machine. Its like for a user is not to be trusted everywhere: Wine's takes the
+/// machine's entries out.
+void enter_library_for_user(ClassesKey& key, const Registry& registry, const std::string& server,
+                            const std::filesystem::path& file) {
+  const std::string path = library_key(server) + "\\" + library_version();
+  key.write(path, "", server + " 1.0 Type Library");
+  key.write(path + "\\FLAGS", "", "0");
+  key.write(path + "\\0\\win64", "", narrow_text(file.wstring()));
+  key.write(path + "\\HELPDIR", "", narrow_text(file.parent_path().wstring()));
+  for (const Registry::Class& cls : registry.classes()) {
+    if (cls.server != server) continue;
+    const std::string members = "Interface\\" + registry_text(members_uuid(cls.prog_id()));
+    key.write(members, "", "_" + std::string(cls.name()));
+    key.write(members + "\\ProxyStubClsid32", "", "{00020420-0000-0000-C000-000000000046}");  // of IDispatch
+    key.write(members + "\\TypeLib", "", registry_text(library_uuid(server)));
+    key.write(members + "\\TypeLib", "Version", library_version());
+  }
 }
 
-void enter_library(const Registry& registry, const Registration& registration, const std::string& server) {
-  const auto file = library_file(registration, server);
-  std::filesystem::create_directories(file.parent_path());
-  write_type_library(file, server, registry.classes());
+void enter_library(ClassesKey& key, const Registry& registry, const Registration& registration, NewLibrary& made) {
+  const auto file = made.put_in_place();
+  if (registration.scope == Scope::User) return enter_library_for_user(key, registry, made.server(), file);
   ComPointer<ITypeLib> library;
   check(LoadTypeLibEx(file.wstring().c_str(), REGKIND_NONE, library.out()), "type library");
   std::wstring path = file.wstring();
   std::wstring folder = file.parent_path().wstring();
-  check(registration.scope == Scope::User ? RegisterTypeLibForUser(library.get(), path.data(), folder.data())
-                                          : RegisterTypeLib(library.get(), path.data(), folder.data()),
-        "type library");
+  check(RegisterTypeLib(library.get(), path.data(), folder.data()), "type library");
 }
 
 void take_out_library(ClassesKey& key, const Registration& registration, const std::string& server) {
-  const GUID id = guid_of(library_uuid(server));
-  const std::string library_key = "TypeLib\\" + registry_text(library_uuid(server));
-  const std::string version = std::to_string(kLibraryMajor) + "." + std::to_string(kLibraryMinor);
   // The program may have been moved since.
-  const std::string file = ClassesKey::read(key.root(), library_key + "\\" + version + "\\0\\win64");
+  const std::string file = ClassesKey::read(key.root(), library_key(server) + "\\" + library_version() + "\\0\\win64");
   // It fails where the file is gone; what it leaves is taken out by hand.
-  if (registration.scope == Scope::User) {
-    UnRegisterTypeLibForUser(id, kLibraryMajor, kLibraryMinor, LOCALE_NEUTRAL, SYS_WIN64);
-  } else {
-    UnRegisterTypeLib(id, kLibraryMajor, kLibraryMinor, LOCALE_NEUTRAL, SYS_WIN64);
+  if (registration.scope == Scope::Machine) {
+    UnRegisterTypeLib(guid_of(library_uuid(server)), kLibraryMajor, kLibraryMinor, LOCALE_NEUTRAL, SYS_WIN64);
   }
-  key.remove(library_key);
+  key.remove(library_key(server));
   std::error_code ignored;  // in use, or not there
   if (!file.empty()) std::filesystem::remove(wide_text(file), ignored);
-  std::filesystem::remove(library_file(registration, server), ignored);
+  for (int other = 0; other <= kOtherNames; ++other) {
+    std::filesystem::remove(library_file(registration, server, other), ignored);
+  }
 }
 
 }  // namespace
@@ -174,11 +233,14 @@ std::vector<std::string> servers_of(const Registry& registry) {
 }
 
 void register_server(const Registry& registry, const Registration& registration) {
+  ClassesKey key(registration.scope);  // first: who may not open it is to change nothing
+  // What is most likely to fail comes before an earlier registration goes: where no file can be written, it stays.
+  std::vector<NewLibrary> libraries;
+  for (const std::string& server : servers_of(registry)) libraries.emplace_back(registry, registration, server);
   unregister_server(registry, registration);
   try {
-    ClassesKey key(registration.scope);
     for (const Registry::Class& cls : registry.classes()) enter_class(key, cls, registration);
-    for (const std::string& server : servers_of(registry)) enter_library(registry, registration, server);
+    for (NewLibrary& library : libraries) enter_library(key, registry, registration, library);
   } catch (const std::exception&) {
     const auto cause = std::current_exception();
     try {

@@ -20,7 +20,8 @@ struct Registration {
 std::vector<std::string> servers_of(const Registry& registry);
 
 /// Enters every class under its names and writes and enters the type libraries. Classes whose name belongs to another
-/// server already are left to it. What an earlier registration left is replaced; on an error nothing is left.
+/// server already are left to it. What an earlier registration left is replaced. It stays where the libraries cannot be
+/// written; on any other error nothing is left.
 void register_server(const Registry& registry, const Registration& registration);
 
 /// Takes out all that register_server() made; what is not there, or is another server's, is left alone.

@@ -6,7 +6,7 @@
 
 namespace vorlan::com {
 
-/// Offers all classes until the last object is released, or until none was asked for in a minute.
+/// Offers all classes until the last object is released, or until twenty seconds have passed without any.
 void serve(const Registry& registry, const Client::MakePlatform& make_platform);
 
 }  // namespace vorlan::com

@@ -53,8 +53,7 @@ ULONG ServedObject::Release() noexcept {
 HRESULT ServedObject::QueryInterface(REFIID iid, void** out) noexcept {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
-  if (IsEqualGUID(iid, IID_IUnknown) != 0 || IsEqualGUID(iid, IID_IDispatch) != 0 ||
-      (IsEqualGUID(iid, ids_.interface_id) != 0 && IsEqualGUID(iid, IID_NULL) == 0)) {
+  if (IsEqualGUID(iid, IID_IUnknown) != 0 || is_members(iid)) {
     *out = static_cast<IDispatch*>(this);
   } else if (IsEqualGUID(iid, IID_ISupportErrorInfo) != 0) {
     *out = static_cast<ISupportErrorInfo*>(this);
@@ -74,9 +73,12 @@ HRESULT ServedObject::QueryInterface(REFIID iid, void** out) noexcept {
   return S_OK;
 }
 
-HRESULT ServedObject::InterfaceSupportsErrorInfo(REFIID iid) noexcept {
-  return IsEqualGUID(iid, IID_IDispatch) != 0 ? S_OK : S_FALSE;
+bool ServedObject::is_members(REFIID iid) const noexcept {
+  return IsEqualGUID(iid, IID_IDispatch) != 0 ||
+         (IsEqualGUID(iid, ids_.interface_id) != 0 && IsEqualGUID(iid, IID_NULL) == 0);
 }
+
+HRESULT ServedObject::InterfaceSupportsErrorInfo(REFIID iid) noexcept { return is_members(iid) ? S_OK : S_FALSE; }
 
 HRESULT ServedObject::GetClassInfo(ITypeInfo** info) noexcept {
   if (info == nullptr) return E_POINTER;
@@ -93,10 +95,12 @@ Client& ServedObject::client() {
 }
 
 const Ref<Object>& ServedObject::object(Client& client) {
-  Client* none = nullptr;
-  client_.compare_exchange_strong(none, &client);
+  Client* owner = nullptr;
+  if (client_.compare_exchange_strong(owner, &client)) owner = &client;
+  // Another client may use the object that it was handed at the same time: who owns it makes it once.
+  const Turn turn(owner->turns());
   if (!object_) {
-    object_ = entry_->create(client.platform());
+    object_ = entry_->create(owner->platform());
     host_.add_object(*this, *object_);
   }
   return object_;
@@ -148,7 +152,8 @@ Value ServedObject::call(const MemberInfo& member, WORD kind, DISPPARAMS& parame
   CallArguments arguments(member, parameters, kind, caller);
   const std::span<Value> values = arguments.values();
   // As in `Channels("FC_SECTOR 0")`: a property without parameters gives an object, whose default member is meant.
-  if (!assigns && !member.is_method() && member.parameters.empty() && !values.empty()) {
+  const bool may_give_object = member.type == ValueType::Object || member.type == ValueType::Any;
+  if (!assigns && !member.is_method() && may_give_object && member.parameters.empty() && !values.empty()) {
     const Ref<Object> inner = target->invoke(member.name, Access::Get, {}).to_object();
     return deref(inner, member.name).invoke("Item", Access::Get, values);
   }
@@ -174,7 +179,7 @@ HRESULT ServedObject::Invoke(DISPID id, REFIID iid, LCID, WORD kind, DISPPARAMS*
   if (IsEqualGUID(iid, IID_NULL) == 0) return DISP_E_UNKNOWNINTERFACE;
   if (parameters == nullptr) return E_INVALIDARG;
   const int index = ids_.members.member(id);
-  if (id == DISPID_NEWENUM && result != nullptr && is_collection()) return enumerate(*result);
+  if (id == DISPID_NEWENUM && result != nullptr && is_collection(info_)) return enumerate(*result);
   if (index < 0) return DISP_E_MEMBERNOTFOUND;
   const MemberInfo& member = info_.members()[static_cast<std::size_t>(index)];
   try {

@@ -9,8 +9,7 @@
 
 namespace vorlan::com {
 
-/// A collection, which has `Count` and an `Item` that takes numbers from 1 on, can be gone through: an enumeration is
-/// the same object once more, with a place in it.
+/// A collection can be gone through: an enumeration is the same object once more, with a place in it.
 class ServedObject final : public IDispatch, public ISupportErrorInfo, public IProvideClassInfo, public IEnumVARIANT {
  public:
   /// A new object of a class. It is made by the first call, which tells whose it is: activation comes from the system.
@@ -22,7 +21,7 @@ class ServedObject final : public IDispatch, public ISupportErrorInfo, public IP
 
   static const ClassInfo& info_of(const Object& object);
 
-  /// The object itself; made for this client if it is not there yet. It is the caller's turn.
+  /// The object itself; made if it is not there yet, for this client unless another has used it first.
   const Ref<Object>& object(Client& client);
   [[nodiscard]] bool is_of(const Client& client) const noexcept {
     const Client* owner = client_;
@@ -54,7 +53,8 @@ class ServedObject final : public IDispatch, public ISupportErrorInfo, public IP
   ~ServedObject();
   Client& client();
   Value call(const MemberInfo& member, WORD kind, DISPPARAMS& parameters, Client& client);
-  [[nodiscard]] bool is_collection() const noexcept;
+  /// Whether an interface is the one through which the members are called.
+  [[nodiscard]] bool is_members(REFIID iid) const noexcept;
   HRESULT enumerate(VARIANT& enumeration) noexcept;
 
   std::atomic<ULONG> references_{1};

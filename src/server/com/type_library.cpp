@@ -95,6 +95,21 @@ HREFTYPE refer(ICreateTypeInfo& info, ITypeInfo& other) {
   return reference;
 }
 
+/// What For Each asks for, in what was compiled with the library.
+void add_enumeration(ICreateTypeInfo& info, UINT index) {
+  FUNCDESC description{};
+  description.memid = DISPID_NEWENUM;
+  description.funckind = FUNC_DISPATCH;
+  description.invkind = INVOKE_PROPERTYGET;
+  description.callconv = CC_STDCALL;
+  description.elemdescFunc.tdesc.vt = VT_UNKNOWN;
+  description.wFuncFlags = FUNCFLAG_FRESTRICTED | FUNCFLAG_FHIDDEN;
+  check(info.AddFuncDesc(index, &description), "enumeration");
+  std::wstring name = L"_NewEnum";
+  LPOLESTR names = name.data();
+  check(info.SetFuncAndParamNames(index, &names, 1), "names");
+}
+
 void add_members(ICreateTypeInfo& info, const ClassInfo& cls) {
   UINT index = 0;
   for (const MemberInfo& member : cls.members()) {
@@ -104,6 +119,7 @@ void add_members(ICreateTypeInfo& info, const ClassInfo& cls) {
     if (member.lets) add(INVOKE_PROPERTYPUT);
     if (member.sets) add(INVOKE_PROPERTYPUTREF);
   }
+  if (is_collection(cls)) add_enumeration(info, index);
 }
 
 void add_class(ICreateTypeLib2& library, const Registry::Class& cls, ITypeInfo& dispatch) {
