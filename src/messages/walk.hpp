@@ -60,9 +60,9 @@ void walk(const MessageClass& message, Side& side) {
       count = group.times;
     } else if (group.repeated) {
       count = small_value(value(group.count, 0));
-      const bool added = group.added_count != MessageClass::kNone;
-      if (added && is_there(fields[static_cast<std::size_t>(group.added_count)], group.added_count, 0)) {
-        count += small_value(value(group.added_count, 0));
+      if (group.added_count != MessageClass::kNone) {
+        const auto added = static_cast<std::size_t>(group.added_count);
+        if (is_there(fields[added], added, 0)) count += small_value(side.value(added, 0));
       }
       if (group.at_least_one && count == 0) count = 1;
     }
