@@ -95,10 +95,12 @@ Client& ServedObject::client() {
 }
 
 const Ref<Object>& ServedObject::object(Client& client) {
-  Client* none = nullptr;
-  client_.compare_exchange_strong(none, &client);
+  Client* owner = nullptr;
+  if (client_.compare_exchange_strong(owner, &client)) owner = &client;
+  // Another client may use the object that it was handed at the same time: who owns it makes it once.
+  const Turn turn(owner->turns());
   if (!object_) {
-    object_ = entry_->create(client.platform());
+    object_ = entry_->create(owner->platform());
     host_.add_object(*this, *object_);
   }
   return object_;
