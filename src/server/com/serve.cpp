@@ -5,6 +5,7 @@
 #include "server/com/apartment.hpp"
 #include "server/com/com_error.hpp"
 #include "server/com/guid.hpp"
+#include "server/com/kept_interfaces.hpp"
 #include "server/com/served_object.hpp"
 
 namespace vorlan::com {
@@ -94,6 +95,7 @@ void serve(const Registry& registry, const Client::MakePlatform& make_platform) 
   Host host(registry, make_platform);
   std::deque<Factory> factories;
   const Apartment apartment;  // left first: nothing comes in then
+  const KeptInterfaces interfaces;
   for (const Registry::Class& cls : registry.classes()) factories.emplace_back(host, cls).offer();
   check(CoResumeClassObjects(), "classes");
   constexpr DWORD kFirstWait = 20'000;  // ms; whoever started us may have died since
