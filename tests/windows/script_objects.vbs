@@ -21,6 +21,12 @@ Class Refusing
   End Property
 End Class
 
+Class NotReady
+  Public Default Property Get Text
+    Err.Raise 1234
+  End Property
+End Class
+
 Class Sector
   Public PRobj_GlobalParameters
   Public PRstr_SectorName
@@ -84,6 +90,12 @@ Err.Clear
 sent.CreateMessage New Refusing
 ' The host may keep the source and the text of it to itself.
 Equal "the script's own error", Err.Number, -2147221503
+Err.Clear
+sent.PRstr_CloseReason = New NotReady
+Equal "an error in a default property", Err.Number, 1234
+Err.Clear
+sent.PRstr_CloseReason = New Sector
+Equal "an object without one", Err.Number, 13
 Err.Clear
 sent.PRstr_CloseReason = "00000101"
 sent.PRstr_MoreInfoLen = "00001100"

@@ -16,8 +16,7 @@ namespace {
 /// Arguments as COM takes them, last one first, and the result. By reference, each is a Variant that refers to another.
 class Arguments {
  public:
-  Arguments(std::span<const Value> values, bool by_reference, Objects& objects)
-      : objects_(objects), held_(std::make_unique<Variant[]>(values.size())), passed_(values.size()) {
+  Arguments(std::span<const Value> values, bool by_reference, Objects& objects) : Arguments(values.size(), objects) {
     for (std::size_t i = 0; i < values.size(); ++i) {
       VARIANT& passed = passed_[values.size() - 1 - i];
       VARIANT& held = *held_[i];
@@ -42,6 +41,9 @@ class Arguments {
   }
 
  private:
+  Arguments(std::size_t count, Objects& objects)
+      : objects_(objects), held_(std::make_unique<Variant[]>(count)), passed_(count) {}
+
   Objects& objects_;
   std::unique_ptr<Variant[]> held_;
   std::vector<VARIANT> passed_;
@@ -191,8 +193,11 @@ std::optional<Value> ForeignObject::default_value() {
   UINT bad_argument = 0;
   const HRESULT status = try_kinds(value, Access::Get, parameters, none.result(), information, bad_argument);
   if (SUCCEEDED(status)) return to_value(*none.result(), objects_);
-  if (status == DISP_E_EXCEPTION) throw error_of(status, information, class_of(*dispatch_.get()));
-  return {};
+  for (const HRESULT none_there :
+       {DISP_E_MEMBERNOTFOUND, DISP_E_UNKNOWNNAME, DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTOPTIONAL, E_NOTIMPL}) {
+    if (status == none_there) return {};
+  }
+  throw error_of(status, information, class_of(*dispatch_.get()));
 }
 
 Ref<Object> foreign_object_of(IUnknown& unknown, Objects& objects) {
