@@ -88,7 +88,15 @@ int run(const std::vector<std::string>& words) {
   if ((enters || is(0, "UnregServer")) && (words.size() == 1 || (words.size() == 2 && is(1, "user")))) {
     const com::Apartment apartment;
     const com::Registration registration{words.size() == 2 ? com::Scope::User : com::Scope::Machine, own_path()};
-    enters ? com::register_server(registry, registration) : com::unregister_server(registry, registration);
+    std::string left_out;
+    if (enters) {
+      for (const std::string& name : com::register_server(registry, registration)) {
+        left_out.append("Left to another server, which has the name: ").append(name).append("\r\n");
+      }
+    } else {
+      com::unregister_server(registry, registration);
+    }
+    if (!left_out.empty()) say(STD_OUTPUT_HANDLE, left_out);
     return kDone;
   }
   if (words.size() == 1 && (is(0, "help") || is(0, "?"))) {

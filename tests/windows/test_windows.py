@@ -21,23 +21,30 @@ def class_names(fresh_machine):
 
 
 def test_registration_is_undone(fresh_machine):
-    # Another server's name, which is left to it.
+    # Other servers' names and files, which are left to them.
     fresh_machine.succeed("reg", "add", r"HKLM\Software\Classes\ReadINI.ParameterFunctions\CLSID", "/ve", "/d",
                           "{11111111-2222-3333-4444-555555555555}" + 1100 * " ", "/f")
+    fresh_machine.succeed("reg", "add", r"HKLM\Software\Classes\VorlanSim.Security\shell", "/f")
+    anothers_file = BUILD / "bin" / "ReadINI.tlb"
+    anothers_file.write_text("another's")
     fresh_machine.succeed("reg", "add", r"HKCU\Software\Classes", "/f")  # which every user of Windows has
     before = fresh_machine.registry()
     reader = r"\Software\Classes\ReadINI.ParameterFunctions"
     for root, scope in (("HKLM", []), ("HKCU", ["/user"])):
         fresh_machine.succeed(fresh_machine.server, "/UnregServer", *scope)  # nothing there
         for _ in range(2):
-            fresh_machine.succeed(fresh_machine.server, "/RegServer", *scope)
+            said = fresh_machine.succeed(fresh_machine.server, "/RegServer", *scope)
+            assert re.findall(r"name: (.*)", said) == ["ReadINI.ParameterFunctions", "VorlanSim.Security"]
         fresh_machine.succeed("reg", "query", root + r"\Software\Classes\Vorlan.SB_Sector\CLSID")
         assert scope == [] or fresh_machine.run("reg", "query", "HKCU" + reader).returncode != 0, "it hides the machine's"
         fresh_machine.succeed(fresh_machine.server, "/UnregServer", *scope)
     after = fresh_machine.registry()
     assert after - before == before - after == set()
-    assert not list(fresh_machine.folder.rglob("Vorlan*.tlb")) + list((BUILD / "bin").glob("*.tlb"))
-    fresh_machine.succeed("reg", "delete", r"HKLM\Software\Classes\ReadINI.ParameterFunctions", "/f")
+    left = [*fresh_machine.folder.rglob("Vorlan*.tlb"), *(BUILD / "bin").glob("*.tlb")]
+    assert left == [anothers_file] and anothers_file.read_text() == "another's"
+    anothers_file.unlink()
+    for name in ("ReadINI.ParameterFunctions", "VorlanSim.Security"):
+        fresh_machine.succeed("reg", "delete", r"HKLM\Software\Classes" + "\\" + name, "/f")
 
 
 def test_usage(fresh_machine):

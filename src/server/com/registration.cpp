@@ -33,6 +33,14 @@ class ClassesKey {
                  "registry, " + path);
   }
   [[nodiscard]] HKEY root() const noexcept { return root_; }
+  [[nodiscard]] static bool exists(HKEY root, const std::string& path) {
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(root, wide_text("Software\\Classes\\" + path).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) {
+      return false;
+    }
+    RegCloseKey(opened);
+    return true;
+  }
   /// The own value of a key below Software\Classes; empty if there is none.
   [[nodiscard]] static std::string read(HKEY root, const std::string& path) {
     std::wstring text;
@@ -78,28 +86,32 @@ struct Names {
   std::string class_key;
 };
 
-/// Whether a programmatic identifier is free there, or stands for our class already.
+/// Whether a programmatic identifier stands for our class there.
 bool is_ours(HKEY root, const Names& names, const std::string& prog_id) {
-  const std::string there = ClassesKey::read(root, prog_id + "\\CLSID");
-  return there.empty() || equals_ignoring_case(there, names.class_id);
+  return equals_ignoring_case(ClassesKey::read(root, prog_id + "\\CLSID"), names.class_id);
 }
-/// Whether it is another server's where we would hide that one, or be hidden by it.
+/// Whether it is another's where we would hide that one, or be hidden by it.
 bool is_taken(Scope scope, const Names& names, const std::string& prog_id) {
-  return !is_ours(HKEY_LOCAL_MACHINE, names, prog_id) ||
-         (scope == Scope::User && !is_ours(HKEY_CURRENT_USER, names, prog_id));
+  const auto is_anothers = [&](HKEY root) {
+    return ClassesKey::exists(root, prog_id) && !is_ours(root, names, prog_id);
+  };
+  return is_anothers(HKEY_LOCAL_MACHINE) || (scope == Scope::User && is_anothers(HKEY_CURRENT_USER));
 }
 
-void enter_class(ClassesKey& key, const Registry::Class& cls, const Registration& registration) {
+/// False if the name is another's.
+bool enter_class(ClassesKey& key, const Registry::Class& cls, const Registration& registration) {
   const Names names(cls);
   const std::string summary(cls.info().summary());
   const std::string program = narrow_text(registration.program.wstring());
-  if (is_taken(registration.scope, names, names.prog_id) || is_taken(registration.scope, names, names.versioned))
-    return;
-  key.write(names.prog_id, "", summary);
+  if (is_taken(registration.scope, names, names.prog_id) || is_taken(registration.scope, names, names.versioned)) {
+    return false;
+  }
+  // The number first: it tells whose the name is.
   key.write(names.prog_id + "\\CLSID", "", names.class_id);
+  key.write(names.prog_id, "", summary);
   key.write(names.prog_id + "\\CurVer", "", names.versioned);
-  key.write(names.versioned, "", summary);
   key.write(names.versioned + "\\CLSID", "", names.class_id);
+  key.write(names.versioned, "", summary);
   key.write(names.class_key, "", summary);
   key.write(names.class_key + "\\LocalServer32", "", "\"" + program + "\"");
   key.write(names.class_key + "\\LocalServer32", "ServerExecutable", program);
@@ -108,6 +120,7 @@ void enter_class(ClassesKey& key, const Registry::Class& cls, const Registration
   key.write(names.class_key + "\\TypeLib", "", registry_text(library_uuid(cls.server)));
   key.write(names.class_key + "\\Version", "", "1.0");
   key.write(names.class_key + "\\Programmable", "", "");
+  return true;
 }
 
 void take_out_class(ClassesKey& key, const Registry::Class& cls) {
@@ -135,6 +148,21 @@ std::filesystem::path library_file(const Registration& registration, const std::
 }
 constexpr int kOtherNames = 9;
 
+/// Whether a file is a library of ours, of this version or another.
+bool is_library(const std::filesystem::path& file, const std::string& server) {
+  ComPointer<ITypeLib> library;
+  TLIBATTR* attributes = nullptr;
+  if (FAILED(LoadTypeLibEx(file.wstring().c_str(), REGKIND_NONE, library.out()))) return false;
+  if (FAILED(library->GetLibAttr(&attributes))) return false;
+  const bool is_it = IsEqualGUID(attributes->guid, guid_of(library_uuid(server))) != 0;
+  library->ReleaseTLibAttr(attributes);
+  return is_it;
+}
+void remove_library(const std::filesystem::path& file, const std::string& server) {
+  std::error_code ignored;  // in use
+  if (is_library(file, server)) std::filesystem::remove(file, ignored);
+}
+
 /// A library that is written, but not at its place yet. Goes with this.
 class NewLibrary {
  public:
@@ -155,9 +183,11 @@ class NewLibrary {
   ~NewLibrary() { remove(); }
   [[nodiscard]] const std::string& server() const noexcept { return server_; }
   std::filesystem::path put_in_place() {
-    std::error_code fault;
+    auto fault = std::make_error_code(std::errc::file_exists);
     for (int other = 0; other <= kOtherNames; ++other) {
       const auto place = library_file(registration_, server_, other);
+      std::error_code unknown;
+      if (std::filesystem::exists(place, unknown) && !is_library(place, server_)) continue;
       std::filesystem::rename(file_, place, fault);
       if (!fault) return place;
     }
@@ -215,11 +245,8 @@ void take_out_library(ClassesKey& key, const Registration& registration, const s
     UnRegisterTypeLib(guid_of(library_uuid(server)), kLibraryMajor, kLibraryMinor, LOCALE_NEUTRAL, SYS_WIN64);
   }
   key.remove(library_key(server));
-  std::error_code ignored;  // in use, or not there
-  if (!file.empty()) std::filesystem::remove(wide_text(file), ignored);
-  for (int other = 0; other <= kOtherNames; ++other) {
-    std::filesystem::remove(library_file(registration, server, other), ignored);
-  }
+  if (!file.empty()) remove_library(wide_text(file), server);
+  for (int other = 0; other <= kOtherNames; ++other) remove_library(library_file(registration, server, other), server);
 }
 
 }  // namespace
@@ -232,15 +259,19 @@ std::vector<std::string> servers_of(const Registry& registry) {
   return servers;
 }
 
-void register_server(const Registry& registry, const Registration& registration) {
+std::vector<std::string> register_server(const Registry& registry, const Registration& registration) {
   ClassesKey key(registration.scope);  // first: who may not open it is to change nothing
   // What is most likely to fail comes before an earlier registration goes: where no file can be written, it stays.
   std::vector<NewLibrary> libraries;
   for (const std::string& server : servers_of(registry)) libraries.emplace_back(registry, registration, server);
   unregister_server(registry, registration);
   try {
-    for (const Registry::Class& cls : registry.classes()) enter_class(key, cls, registration);
+    std::vector<std::string> left_out;
+    for (const Registry::Class& cls : registry.classes()) {
+      if (!enter_class(key, cls, registration)) left_out.push_back(cls.prog_id());
+    }
     for (NewLibrary& library : libraries) enter_library(key, registry, registration, library);
+    return left_out;
   } catch (const std::exception&) {
     const auto cause = std::current_exception();
     try {

@@ -148,8 +148,9 @@ void write_type_library(const std::filesystem::path& file, std::string_view serv
   check(LoadRegTypeLib(kStandard, 2, 0, LOCALE_NEUTRAL, standard.out()), "OLE Automation's own type library");
   check(standard->GetTypeInfoOfGuid(IID_IDispatch, dispatch.out()), "IDispatch");
 
+  const std::string path = narrow_text(file.wstring());
   ComPointer<ICreateTypeLib2> library;
-  check(CreateTypeLib2(SYS_WIN64, file.wstring().c_str(), library.out()), file.string());
+  check(CreateTypeLib2(SYS_WIN64, file.wstring().c_str(), library.out()), path);
   check(library->SetGuid(guid_of(library_uuid(server))), "library");
   check(library->SetVersion(kLibraryMajor, kLibraryMinor), "library");
   check(library->SetLcid(LOCALE_NEUTRAL), "library");
@@ -158,7 +159,7 @@ void write_type_library(const std::filesystem::path& file, std::string_view serv
   for (const Registry::Class& cls : classes) {
     if (cls.server == server) add_class(*library.get(), cls, *dispatch.get());
   }
-  check(library->SaveAllChanges(), file.string());
+  check(library->SaveAllChanges(), path);
 }
 
 ComPointer<ITypeLib> registered_type_library(std::string_view server) {
