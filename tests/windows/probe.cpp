@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <cstdio>
+#include <span>
 #include <thread>
 
 #include "late_bound.hpp"
@@ -171,20 +172,61 @@ bool is_named(ITypeInfo& info, std::wstring_view wanted) {
   return is;
 }
 
-/// What was compiled with the library goes through a collection by this.
-void enumeration_in_library() {
-  ComPointer<ITypeLib> library;
-  ComPointer<ITypeInfo> info;
-  WORD flags = 0;
-  if (LoadRegTypeLib(guid_of(library_uuid("VorlanSim")), 1, 0, LOCALE_NEUTRAL, library.out()) == S_OK &&
-      library->GetTypeInfoOfGuid(guid_of(members_uuid("VorlanSim.ChannelCollection")), info.out()) == S_OK) {
-    FUNCDESC* found = nullptr;
-    for (UINT i = 0; info->GetFuncDesc(i, &found) == S_OK; ++i) {
-      if (found->memid == DISPID_NEWENUM && found->elemdescFunc.tdesc.vt == VT_UNKNOWN) flags = found->wFuncFlags;
-      info->ReleaseFuncDesc(found);
+/// What a development environment and a compiler take from the library: how the members are called.
+void members_in_library() {
+  struct Parameter {
+    VARTYPE type;
+    USHORT flags;
+    VARTYPE referred = VT_EMPTY;
+    bool operator==(const Parameter&) const = default;
+  };
+  struct Row {
+    std::string_view class_name;
+    DISPID member;
+    INVOKEKIND kind;
+    VARTYPE returns;
+    std::vector<Parameter> parameters = {};
+    WORD flags = 0;
+  };
+  constexpr Parameter kByReference{VT_PTR, PARAMFLAG_FIN | PARAMFLAG_FOUT, VT_I4};
+  constexpr Parameter kText{VT_BSTR, PARAMFLAG_FIN};
+  constexpr Parameter kOptional{VT_VARIANT, PARAMFLAG_FIN | PARAMFLAG_FOPT};
+  constexpr WORD kHidden = FUNCFLAG_FRESTRICTED | FUNCFLAG_FHIDDEN;
+  const Row rows[] = {
+      {"Vorlan.SB_GeneralFunctions", member_id("LongToBin"), INVOKE_FUNC, VT_BSTR, {kByReference, kByReference}},
+      {"Vorlan.SB_GeneralFunctions",
+       member_id("LogScriptHeader"),
+       INVOKE_FUNC,
+       VT_VOID,
+       {{VT_DISPATCH, PARAMFLAG_FIN}, kText, kText, kOptional, kOptional}},
+      {"Vorlan.SB_Ses_MsgSessionClose", member_id("PRstr_CloseReason"), INVOKE_PROPERTYGET, VT_BSTR},
+      {"Vorlan.SB_Ses_MsgSessionClose", member_id("PRstr_CloseReason"), INVOKE_PROPERTYPUT, VT_VOID, {{VT_BSTR, 0}}},
+      {"Vorlan.SB_Sector", member_id("PRobj_GlobalParameters"), INVOKE_PROPERTYPUTREF, VT_VOID, {{VT_DISPATCH, 0}}},
+      {"VorlanSim.ChannelCollection", DISPID_NEWENUM, INVOKE_PROPERTYGET, VT_UNKNOWN, {}, kHidden},
+  };
+  for (const Row& row : rows) {
+    const std::string_view server = row.class_name.substr(0, row.class_name.find('.'));
+    ComPointer<ITypeLib> library;
+    ComPointer<ITypeInfo> info;
+    int found = 0;
+    if (LoadRegTypeLib(guid_of(library_uuid(server)), 1, 0, LOCALE_NEUTRAL, library.out()) == S_OK &&
+        library->GetTypeInfoOfGuid(guid_of(members_uuid(row.class_name)), info.out()) == S_OK) {
+      FUNCDESC* function = nullptr;
+      for (UINT i = 0; info->GetFuncDesc(i, &function) == S_OK; ++i) {
+        std::vector<Parameter> parameters;
+        for (const ELEMDESC& each :
+             std::span(function->lprgelemdescParam, static_cast<std::size_t>(function->cParams))) {
+          const TYPEDESC& type = each.tdesc;
+          parameters.push_back({type.vt, each.paramdesc.wParamFlags, type.vt == VT_PTR ? type.lptdesc->vt : VARTYPE{}});
+        }
+        found += function->memid == row.member && function->invkind == row.kind &&
+                 function->elemdescFunc.tdesc.vt == row.returns && parameters == row.parameters &&
+                 function->wFuncFlags == row.flags;
+        info->ReleaseFuncDesc(function);
+      }
     }
+    holds(row.class_name.data(), found == 1);
   }
-  holds("a collection can be gone through", flags == (FUNCFLAG_FRESTRICTED | FUNCFLAG_FHIDDEN));
 }
 
 void type_library(LateBound& functions) {
@@ -391,7 +433,7 @@ int main() try {
   errors();
   arrays(functions);
   type_library(functions);
-  enumeration_in_library();
+  members_in_library();
   two_threads();
   calls_back(functions);
   calls_of_peers(functions);
