@@ -31,7 +31,7 @@ endif()
 if(VORLAN_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
-  # One runtime library for programs and for modules of others', as GCC has it.
+  # The runtime is a shared library, as GCC has it, for modules that an interpreter loads as well as for programs.
   set(VORLAN_SANITIZER_RUNTIME libasan.so)
   if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     set(VORLAN_SANITIZER_RUNTIME libclang_rt.asan-${CMAKE_SYSTEM_PROCESSOR}.so)

@@ -41,6 +41,7 @@ class Arguments {
   }
 
  private:
+  /// Complete with this, so that the destructor lets go of what is held when one of the values cannot be passed.
   Arguments(std::size_t count, Objects& objects)
       : objects_(objects), held_(std::make_unique<Variant[]>(count)), passed_(count) {}
 
